@@ -19,5 +19,9 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/kelsConfigVersion.cmake
 install(FILES ${PROJECT_BINARY_DIR}/kelsConfig.cmake ${PROJECT_BINARY_DIR}/kelsConfigVersion.cmake
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/kels)
 
+# The .pc file locates the prefix relative to itself, so an installed tree
+# can be moved.
+file(RELATIVE_PATH KELS_PC_PREFIX "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig" "${CMAKE_INSTALL_PREFIX}")
+string(REGEX REPLACE "/$" "" KELS_PC_PREFIX "${KELS_PC_PREFIX}")
 configure_file(cmake/kels.pc.in ${PROJECT_BINARY_DIR}/kels.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/kels.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
