@@ -232,9 +232,11 @@ void ScaleF32ToS16(const float* HWY_RESTRICT src, int16_t* HWY_RESTRICT dst, siz
   for (; i + N <= n; i += N) {
     const auto x = hn::LoadU(df, src + i);
     const auto y = hn::Sub(hn::Mul(x, k), half);
-    auto r = hn::NearestInt(y);  // NaN and overflow give INT32_MIN
+    auto r = hn::NearestInt(y);
     r = hn::IfThenElse(hn::RebindMask(di, hn::Gt(x, one)), hi, r);
-    r = hn::IfThenElse(hn::RebindMask(di, hn::Lt(x, hn::Neg(one))), lo, r);
+    // Below -1 and NaN (which compares false with everything) go to -32768.
+    const auto in_low_range = hn::Ge(x, hn::Neg(one));
+    r = hn::IfThenElse(hn::RebindMask(di, hn::Or(in_low_range, hn::Gt(x, one))), r, lo);
     hn::StoreU(hn::DemoteTo(d16, r), d16, dst + i);
   }
   scalar::scale_f32_to_s16(src + i, dst + i, n - i);
