@@ -27,7 +27,8 @@ void FillT(T v, T* HWY_RESTRICT dst, size_t n) {
     hn::StoreU(vv, d, dst + i + 3 * N);
   }
   for (; i + N <= n; i += N) hn::StoreU(vv, d, dst + i);
-  for (; i < n; ++i) dst[i] = v;
+  // The words may be complex elements aligned to half their size.
+  for (; i < n; ++i) std::memcpy(dst + i, &v, sizeof v);
 }
 
 void FillU8(uint8_t v, uint8_t* dst, size_t n) { FillT(v, dst, n); }
@@ -132,7 +133,7 @@ void FlipT(const T* src, T* dst, size_t n) {
     for (; i + N <= n; i += N) {
       hn::StoreU(hn::Reverse(d, hn::LoadU(d, src + n - i - N)), d, dst + i);
     }
-    for (; i < n; ++i) dst[i] = src[n - 1 - i];
+    scalar::flip(src, dst + i, n - i);  // the first n - i elements, reversed
     return;
   }
   size_t lo = 0, hi = n;

@@ -83,17 +83,21 @@ void conj(const T* src, T* dst, std::size_t n) {
   }
 }
 
+// Elements are moved as bytes: the word type T may be a complex element
+// aligned to only half its size.
 template <class T>
 void flip(const T* src, T* dst, std::size_t n) {
   if (src == dst) {
     for (std::size_t i = 0, j = n; i + 1 < j; ++i, --j) {
-      const T t = dst[i];
-      dst[i] = dst[j - 1];
-      dst[j - 1] = t;
+      T a, b;
+      std::memcpy(&a, dst + i, sizeof a);
+      std::memcpy(&b, dst + j - 1, sizeof b);
+      std::memcpy(dst + i, &b, sizeof b);
+      std::memcpy(dst + j - 1, &a, sizeof a);
     }
     return;
   }
-  for (std::size_t i = 0; i < n; ++i) dst[i] = src[n - 1 - i];
+  for (std::size_t i = 0; i < n; ++i) std::memcpy(dst + i, src + n - 1 - i, sizeof(T));
 }
 
 template <class T>

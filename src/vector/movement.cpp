@@ -71,7 +71,9 @@ void fill_pattern(const T& val, T* dst, std::size_t n) {
     std::memcpy(&w, &val, sizeof w);
     W* d = reinterpret_cast<W*>(dst);
     if (!large) {
-      for (std::size_t i = 0; i < n; ++i) d[i] = w;
+      // Element-wise through the element type itself: a complex element may
+      // be less aligned than the word of its size.
+      for (std::size_t i = 0; i < n; ++i) dst[i] = val;
     } else if constexpr (sizeof(W) == 1) {
       fill_u8(w, d, n);
     } else if constexpr (sizeof(W) == 2) {

@@ -1,6 +1,7 @@
 // Library frame and core library: aligned allocation layout, version record,
 // status texts, thread count, rounding control and IEEE constants.
 #include <gtest/gtest.h>
+#include <xmmintrin.h>
 
 #include <cfenv>
 #include <cmath>
@@ -124,18 +125,26 @@ TEST(Core, ThreadCountSetterAndGetter) {
   kel_set_num_threads(initial);
 }
 
+// Converts with the SSE unit (cvtss2si), which rounds by the MXCSR field;
+// the C library's nearbyint may use the x87 unit on 32-bit targets.
+// The volatile read keeps the compiler from merging conversions made under
+// different rounding modes.
+int sse_round(float x) {
+  volatile float v = x;
+  return _mm_cvtss_si32(_mm_set_ss(v));
+}
+
 TEST(Core, SseRoundingFieldIsSetAndRestored) {
-  volatile float x = 2.5f;
   const unsigned int before = kel_set_rc_ssx(KEL_SSX_RC_UP);
-  const float up = std::nearbyint(x);
+  const int up = sse_round(2.5f);
   const unsigned int during = kel_set_rc_ssx(KEL_SSX_RC_ZERO);
-  const float zero = std::nearbyint(-x);
+  const int zero = sse_round(-2.5f);
   const unsigned int previous = kel_set_cw_ssx(before);
-  EXPECT_EQ(up, 3.0f);
-  EXPECT_EQ(zero, -2.0f);
+  EXPECT_EQ(up, 3);
+  EXPECT_EQ(zero, -2);
   EXPECT_EQ(during & KEL_SSX_RC_MASK, KEL_SSX_RC_UP);
   EXPECT_EQ(previous & KEL_SSX_RC_MASK, KEL_SSX_RC_ZERO);
-  EXPECT_EQ(std::nearbyint(x), 2.0f);  // restored: nearest even
+  EXPECT_EQ(sse_round(2.5f), 2);  // restored: nearest even
 }
 
 TEST(Core, X87RoundingAndPrecisionFields) {
