@@ -5,7 +5,6 @@
 #define HWY_TARGET_INCLUDE "kernels/movement.cpp"
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
 #include "hwy/highway.h"
-#include "hwy/cache_control.h"
 
 #include "kernels/movement.h"
 
@@ -66,21 +65,6 @@ void CopyBlock(const uint8_t* HWY_RESTRICT src, uint8_t* HWY_RESTRICT dst, size_
     hn::StoreU(e, d, dst + i + 3 * N);
   }
   if (i < n) std::memcpy(dst + i, src + i, n - i);
-}
-
-// Copy that requests the source a few cache lines ahead of the loads, for
-// blocks too large to be resident already.
-void CopyPrefetch(const uint8_t* HWY_RESTRICT src, uint8_t* HWY_RESTRICT dst, size_t n) {
-  constexpr size_t kAhead = 512;
-  const hn::ScalableTag<uint8_t> d;
-  const size_t N = hn::Lanes(d);
-  const size_t step = N >= 64 ? N : 64;  // at least one cache line per step
-  size_t i = 0;
-  for (; i + step + kAhead <= n; i += step) {
-    hwy::Prefetch(src + i + kAhead);
-    for (size_t k = 0; k < step; k += N) hn::StoreU(hn::LoadU(d, src + i + k), d, dst + i + k);
-  }
-  if (i < n) CopyBlock(src + i, dst + i, n - i);
 }
 
 template <class T>
@@ -256,7 +240,6 @@ HWY_EXPORT(FillU32);
 HWY_EXPORT(FillU64);
 HWY_EXPORT(FillU128);
 HWY_EXPORT(CopyBlock);
-HWY_EXPORT(CopyPrefetch);
 HWY_EXPORT(ConjF32);
 HWY_EXPORT(ConjF64);
 HWY_EXPORT(ConjS16);
@@ -282,9 +265,6 @@ void fill_u128(const std::uint64_t v[2], std::uint64_t* d, std::size_t n) {
   HWY_DYNAMIC_DISPATCH(FillU128)(v, d, n);
 }
 void copy_block(const std::uint8_t* s, std::uint8_t* d, std::size_t n) { HWY_DYNAMIC_DISPATCH(CopyBlock)(s, d, n); }
-void copy_prefetch(const std::uint8_t* s, std::uint8_t* d, std::size_t n) {
-  HWY_DYNAMIC_DISPATCH(CopyPrefetch)(s, d, n);
-}
 void conj_f32(const float* s, float* d, std::size_t n) { HWY_DYNAMIC_DISPATCH(ConjF32)(s, d, n); }
 void conj_f64(const double* s, double* d, std::size_t n) { HWY_DYNAMIC_DISPATCH(ConjF64)(s, d, n); }
 void conj_s16(const std::int16_t* s, std::int16_t* d, std::size_t n) { HWY_DYNAMIC_DISPATCH(ConjS16)(s, d, n); }

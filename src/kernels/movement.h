@@ -18,9 +18,8 @@ void fill_u32(std::uint32_t v, std::uint32_t* dst, std::size_t n);
 void fill_u64(std::uint64_t v, std::uint64_t* dst, std::size_t n);
 void fill_u128(const std::uint64_t v[2], std::uint64_t* dst, std::size_t n);  // n pairs
 
-// Block copies of n bytes (regions do not overlap).
+// Block copy of n bytes (regions do not overlap).
 void copy_block(const std::uint8_t* src, std::uint8_t* dst, std::size_t n);
-void copy_prefetch(const std::uint8_t* src, std::uint8_t* dst, std::size_t n);
 
 // Negates the odd (imaginary) lanes of n interleaved complex elements;
 // the 16-bit form saturates -(-32768) to 32767.
