@@ -3,6 +3,7 @@
 #ifndef KELS_FRAME_COMMON_H
 #define KELS_FRAME_COMMON_H
 
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
@@ -45,6 +46,17 @@ inline std::uint32_t record_id(const void* record) {
 }
 
 inline bool has_id(const void* record, std::uint32_t id) { return record_id(record) == id; }
+
+// The common shape of a one-source, one-destination operation: pointer and
+// length checks, then the kernel over len elements. In-place forms pass the
+// same array twice.
+template <class S, class D, class Kernel>
+KelStatus checked_unary(const S* src, D* dst, int len, Kernel&& kernel) {
+  if (any_null(src, dst)) return kelStsNullPtr;
+  if (len < 1) return kelStsBadLength;
+  kernel(src, dst, static_cast<std::size_t>(len));
+  return kelStsOk;
+}
 
 }  // namespace kels
 

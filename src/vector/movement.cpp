@@ -149,22 +149,6 @@ KelStatus real_to_cplx_family(const R* re, const R* im, C* dst, int len) {
   return kelStsOk;
 }
 
-template <class C, class R>
-KelStatus real_family(const C* src, R* re, int len) {
-  KELS_REQUIRE_PTRS(src, re);
-  KELS_REQUIRE_LEN(len);
-  split_words<R>(src, re, nullptr, static_cast<std::size_t>(len));
-  return kelStsOk;
-}
-
-template <class C, class R>
-KelStatus imag_family(const C* src, R* im, int len) {
-  KELS_REQUIRE_PTRS(src, im);
-  KELS_REQUIRE_LEN(len);
-  split_words<R>(src, nullptr, im, static_cast<std::size_t>(len));
-  return kelStsOk;
-}
-
 template <class C>
 void conj_kernel(const C* src, C* dst, std::size_t n) {
   if constexpr (std::is_same_v<C, Kel16sc>) {
@@ -174,19 +158,6 @@ void conj_kernel(const C* src, C* dst, std::size_t n) {
   } else {
     conj_f64(reinterpret_cast<const double*>(src), reinterpret_cast<double*>(dst), n);
   }
-}
-
-template <class C>
-KelStatus conj_family(const C* src, C* dst, int len) {
-  KELS_REQUIRE_PTRS(src, dst);
-  KELS_REQUIRE_LEN(len);
-  conj_kernel(src, dst, static_cast<std::size_t>(len));
-  return kelStsOk;
-}
-
-template <class C>
-KelStatus conj_family_i(C* srcdst, int len) {
-  return conj_family<C>(srcdst, srcdst, len);
 }
 
 template <class T>
@@ -204,28 +175,22 @@ void flip_kernel(const T* src, T* dst, std::size_t n) {
   }
 }
 
-template <class T>
-KelStatus flip_family(const T* src, T* dst, int len) {
-  KELS_REQUIRE_PTRS(src, dst);
-  KELS_REQUIRE_LEN(len);
-  flip_kernel(src, dst, static_cast<std::size_t>(len));
-  return kelStsOk;
-}
-
-template <class T>
-KelStatus flip_family_i(T* srcdst, int len) {
-  return flip_family<T>(srcdst, srcdst, len);
-}
-
-// Conjugate of the reversed vector. Out of place only: reverse as 2-word
+// Conjugate of the reversed vector (out of place only): reverse whole
 // elements, then conjugate in place.
 template <class C>
-KelStatus conj_flip_family(const C* src, C* dst, int len) {
-  KELS_REQUIRE_PTRS(src, dst);
-  KELS_REQUIRE_LEN(len);
-  flip_kernel(src, dst, static_cast<std::size_t>(len));
-  conj_kernel(dst, dst, static_cast<std::size_t>(len));
-  return kelStsOk;
+void conj_flip_kernel(const C* src, C* dst, std::size_t n) {
+  flip_kernel(src, dst, n);
+  conj_kernel(dst, dst, n);
+}
+
+template <class C, class R>
+void real_kernel(const C* src, R* re, std::size_t n) {
+  split_words<R>(src, re, nullptr, n);
+}
+
+template <class C, class R>
+void imag_kernel(const C* src, R* im, std::size_t n) {
+  split_words<R>(src, nullptr, im, n);
 }
 
 template <class T>
@@ -237,19 +202,6 @@ void swap_kernel(const T* src, T* dst, std::size_t n) {
   } else {
     swap_bytes_u64(reinterpret_cast<const std::uint64_t*>(src), reinterpret_cast<std::uint64_t*>(dst), n);
   }
-}
-
-template <class T>
-KelStatus swap_bytes_family(const T* src, T* dst, int len) {
-  KELS_REQUIRE_PTRS(src, dst);
-  KELS_REQUIRE_LEN(len);
-  swap_kernel(src, dst, static_cast<std::size_t>(len));
-  return kelStsOk;
-}
-
-template <class T>
-KelStatus swap_bytes_family_i(T* srcdst, int len) {
-  return swap_bytes_family<T>(srcdst, srcdst, len);
 }
 
 KelStatus swap_bytes_24(const Kel8u* src, Kel8u* dst, int len) {
@@ -320,18 +272,30 @@ inline std::int32_t get24s(const Kel8u* p) {
   return static_cast<std::int32_t>(u ^ 0x800000u) - 0x800000;  // sign-extend bit 23
 }
 
+// Checks shared by the multi-channel functions: the interleaved buffer, the
+// channel array and every channel pointer, then the channel and frame counts.
 template <class P>
-bool any_null_channel(const P* const* ch, int n) {
-  for (int c = 0; c < n; ++c) {
-    if (ch[c] == nullptr) return true;
+KelStatus check_channels(const void* frames, P* const* ch, int channels, int len) {
+  KELS_REQUIRE_PTRS(frames, ch);
+  for (int c = 0; c < channels; ++c) {
+    if (ch[c] == nullptr) return kelStsNullPtr;
   }
-  return false;
+  KELS_REQUIRE_LEN(channels, len);
+  return kelStsOk;
+}
+
+// Visits every sample of len frames of nc channels: fn(frame, channel,
+// index in the interleaved buffer).
+template <class Fn>
+void for_each_sample(int channels, int len, Fn&& fn) {
+  const std::size_t nc = static_cast<std::size_t>(channels), n = static_cast<std::size_t>(len);
+  for (std::size_t i = 0; i < n; ++i) {
+    for (std::size_t c = 0; c < nc; ++c) fn(i, c, i * nc + c);
+  }
 }
 
 KelStatus join_scaled_16s(const Kel32f* const* src, int channels, int len, Kel16s* dst) {
-  KELS_REQUIRE_PTRS(dst, src);
-  if (any_null_channel(src, channels)) return kelStsNullPtr;
-  KELS_REQUIRE_LEN(channels, len);
+  KELS_RETURN_IF_ERROR(check_channels(dst, src, channels, len));
   const std::size_t nc = static_cast<std::size_t>(channels), n = static_cast<std::size_t>(len);
   if (nc == 1) {
     scale_f32_to_s16(src[0], dst, n);
@@ -351,40 +315,26 @@ KelStatus join_scaled_16s(const Kel32f* const* src, int channels, int len, Kel16
 }
 
 KelStatus join_scaled_24s(const Kel32f* const* src, int channels, int len, Kel8u* dst) {
-  KELS_REQUIRE_PTRS(dst, src);
-  if (any_null_channel(src, channels)) return kelStsNullPtr;
-  KELS_REQUIRE_LEN(channels, len);
-  const std::size_t nc = static_cast<std::size_t>(channels), n = static_cast<std::size_t>(len);
-  for (std::size_t i = 0; i < n; ++i) {
-    for (std::size_t c = 0; c < nc; ++c) put24(dst + 3 * (i * nc + c), scale_f32_to_s24(src[c][i]));
-  }
+  KELS_RETURN_IF_ERROR(check_channels(dst, src, channels, len));
+  for_each_sample(channels, len, [&](std::size_t i, std::size_t c, std::size_t k) {
+    put24(dst + 3 * k, scale_f32_to_s24(src[c][i]));
+  });
   return kelStsOk;
 }
 
 KelStatus split_scaled_16s(const Kel16s* src, int channels, int len, Kel32f* const* dst) {
-  KELS_REQUIRE_PTRS(src, dst);
-  if (any_null_channel(dst, channels)) return kelStsNullPtr;
-  KELS_REQUIRE_LEN(channels, len);
-  const std::size_t nc = static_cast<std::size_t>(channels), n = static_cast<std::size_t>(len);
-  for (std::size_t i = 0; i < n; ++i) {
-    for (std::size_t c = 0; c < nc; ++c) {
-      dst[c][i] = (static_cast<float>(src[i * nc + c]) + 0.5f) / 32767.5f;
-    }
-  }
+  KELS_RETURN_IF_ERROR(check_channels(src, dst, channels, len));
+  for_each_sample(channels, len, [&](std::size_t i, std::size_t c, std::size_t k) {
+    dst[c][i] = (static_cast<float>(src[k]) + 0.5f) / 32767.5f;
+  });
   return kelStsOk;
 }
 
 KelStatus split_scaled_24s(const Kel8u* src, int channels, int len, Kel32f* const* dst) {
-  KELS_REQUIRE_PTRS(src, dst);
-  if (any_null_channel(dst, channels)) return kelStsNullPtr;
-  KELS_REQUIRE_LEN(channels, len);
-  const std::size_t nc = static_cast<std::size_t>(channels), n = static_cast<std::size_t>(len);
-  for (std::size_t i = 0; i < n; ++i) {
-    for (std::size_t c = 0; c < nc; ++c) {
-      const double v = get24s(src + 3 * (i * nc + c));
-      dst[c][i] = static_cast<float>((v + 0.5) / 8388607.5);
-    }
-  }
+  KELS_RETURN_IF_ERROR(check_channels(src, dst, channels, len));
+  for_each_sample(channels, len, [&](std::size_t i, std::size_t c, std::size_t k) {
+    dst[c][i] = static_cast<float>((get24s(src + 3 * k) + 0.5) / 8388607.5);
+  });
   return kelStsOk;
 }
 
@@ -424,29 +374,33 @@ using namespace kels;
     return real_to_cplx_family<R, C>(pSrcRe, pSrcIm, pDst, len);                                  \
   }                                                                                               \
   KELS_EXPORT KelStatus kelsReal_##ccode(const C* pSrc, R* pDstRe, int len) {                    \
-    return real_family<C, R>(pSrc, pDstRe, len);                                                  \
+    return checked_unary(pSrc, pDstRe, len, real_kernel<C, R>);                                                  \
   }                                                                                               \
   KELS_EXPORT KelStatus kelsImag_##ccode(const C* pSrc, R* pDstIm, int len) {                    \
-    return imag_family<C, R>(pSrc, pDstIm, len);                                                  \
+    return checked_unary(pSrc, pDstIm, len, imag_kernel<C, R>);                                                  \
   }                                                                                               \
   KELS_EXPORT KelStatus kelsConj_##ccode(const C* pSrc, C* pDst, int len) {                      \
-    return conj_family<C>(pSrc, pDst, len);                                                       \
+    return checked_unary(pSrc, pDst, len, conj_kernel<C>);                                                       \
   }                                                                                               \
-  KELS_EXPORT KelStatus kelsConj_##ccode##_I(C* pSrcDst, int len) { return conj_family_i<C>(pSrcDst, len); } \
+  KELS_EXPORT KelStatus kelsConj_##ccode##_I(C* pSrcDst, int len) {                               \
+    return checked_unary(pSrcDst, pSrcDst, len, conj_kernel<C>);                                  \
+  }                                                                                               \
   KELS_EXPORT KelStatus kelsConjFlip_##ccode(const C* pSrc, C* pDst, int len) {                  \
-    return conj_flip_family<C>(pSrc, pDst, len);                                                  \
+    return checked_unary(pSrc, pDst, len, conj_flip_kernel<C>);                                                  \
   }
 #define KELS_DEFINE_FLIP(code, T)                                                     \
   KELS_EXPORT KelStatus kelsFlip_##code(const T* pSrc, T* pDst, int len) {           \
-    return flip_family<T>(pSrc, pDst, len);                                           \
+    return checked_unary(pSrc, pDst, len, flip_kernel<T>);                                           \
   }                                                                                   \
-  KELS_EXPORT KelStatus kelsFlip_##code##_I(T* pSrcDst, int len) { return flip_family_i<T>(pSrcDst, len); }
+  KELS_EXPORT KelStatus kelsFlip_##code##_I(T* pSrcDst, int len) {                   \
+    return checked_unary(pSrcDst, pSrcDst, len, flip_kernel<T>);                      \
+  }
 #define KELS_DEFINE_SWAP(code, T)                                                     \
   KELS_EXPORT KelStatus kelsSwapBytes_##code(const T* pSrc, T* pDst, int len) {      \
-    return swap_bytes_family<T>(pSrc, pDst, len);                                     \
+    return checked_unary(pSrc, pDst, len, swap_kernel<T>);                                     \
   }                                                                                   \
   KELS_EXPORT KelStatus kelsSwapBytes_##code##_I(T* pSrcDst, int len) {              \
-    return swap_bytes_family_i<T>(pSrcDst, len);                                      \
+    return checked_unary(pSrcDst, pSrcDst, len, swap_kernel<T>);                                      \
   }
 
 KELS_FOR_MEMBERS(KELS_COPY_MEMBERS, KELS_DEFINE_COPY)
