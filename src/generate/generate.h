@@ -1,0 +1,69 @@
+// Helpers shared by the window and generator families: element traits for
+// real and complex types, rounding of generated values to integers, and the
+// byte-copy access to records that may sit at any address in caller memory.
+#ifndef KELS_GENERATE_GENERATE_H
+#define KELS_GENERATE_GENERATE_H
+
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <type_traits>
+
+#include "kels.h"
+
+namespace kels::generate {
+
+// Real part type and number of parts of an element type.
+template <class T> struct parts { using type = T; static constexpr int count = 1; };
+template <> struct parts<Kel16sc> { using type = Kel16s; static constexpr int count = 2; };
+template <> struct parts<Kel32fc> { using type = Kel32f; static constexpr int count = 2; };
+template <> struct parts<Kel64fc> { using type = Kel64f; static constexpr int count = 2; };
+template <class T> using part_t = typename parts<T>::type;
+template <class T> constexpr bool is_complex_v = parts<T>::count == 2;
+
+// Round half away from zero and saturate to the integer type I; NaN gives 0.
+// The comparisons are made before the conversion, so no out-of-range
+// floating-to-integer conversion ever happens.
+template <class I, class F>
+I round_saturate(F v) {
+  static_assert(std::is_integral_v<I>);
+  constexpr F lo = static_cast<F>(std::numeric_limits<I>::min());
+  constexpr F hi = static_cast<F>(std::numeric_limits<I>::max());
+  if (!(v == v)) return 0;
+  const F r = v < 0 ? std::ceil(v - F(0.5)) : std::floor(v + F(0.5));
+  if (r <= lo) return std::numeric_limits<I>::min();
+  if (r >= hi) return std::numeric_limits<I>::max();
+  return static_cast<I>(r);
+}
+
+// A value computed in extended or double precision, delivered in the part
+// type P: floating types round once, integer types round and saturate.
+template <class P, class F>
+P to_part(F v) {
+  if constexpr (std::is_floating_point_v<P>) {
+    return static_cast<P>(v);
+  } else {
+    return round_saturate<P>(v);
+  }
+}
+
+// Records are read into a local copy and written back whole: the caller's
+// block need not be aligned for the record's fields.
+template <class R>
+R load_record(const void* p) {
+  R r;
+  std::memcpy(&r, p, sizeof r);
+  return r;
+}
+template <class R>
+void store_record(void* p, const R& r) {
+  std::memcpy(p, &r, sizeof r);
+}
+
+constexpr long double kPiL = 3.141592653589793238462643383279502884L;
+constexpr long double kTwoPiL = 2 * kPiL;
+
+}  // namespace kels::generate
+
+#endif  // KELS_GENERATE_GENERATE_H

@@ -1,0 +1,50 @@
+// The library's pseudo-random generator: a subtract-with-borrow sequence
+// (lags 2 and 3, modulus 2^32 - 18) added to a linear congruential sequence.
+#ifndef KELS_GENERATE_RANDOM_H
+#define KELS_GENERATE_RANDOM_H
+
+#include <cstdint>
+
+namespace kels::generate {
+
+struct RandomWords {
+  std::uint32_t g;           // congruential word
+  std::uint32_t x1, x2, x3;  // x[n-1], x[n-2], x[n-3]
+  std::uint32_t c;           // borrow: 0 or 0xFFFFFFFF (-1)
+};
+
+constexpr std::uint32_t kLcgMul = 69069u;
+constexpr std::uint32_t kLcgAdd = 1013904243u;
+constexpr std::uint32_t kLcgStart = 1131199209u;
+
+inline RandomWords seed_words(std::uint32_t seed) {
+  RandomWords w;
+  w.x1 = seed;
+  w.x2 = kLcgMul * seed + kLcgAdd;
+  w.x3 = kLcgMul * w.x2 + kLcgAdd;
+  w.c = 0xFFFFFFFFu;
+  w.g = kLcgStart;
+  return w;
+}
+
+// One step of both sequences; returns x[n] + g[n] read as a signed value.
+inline std::int32_t next_raw(RandomWords& w) {
+  const std::uint32_t t = w.x2 - w.x3 + w.c;
+  std::uint32_t x;
+  if (static_cast<std::int32_t>(t) < 0) {
+    x = t - 18u;
+    w.c = 0xFFFFFFFFu;
+  } else {
+    x = t;
+    w.c = 0;
+  }
+  w.x3 = w.x2;
+  w.x2 = w.x1;
+  w.x1 = x;
+  w.g = kLcgMul * w.g + kLcgAdd;
+  return static_cast<std::int32_t>(x + w.g);
+}
+
+}  // namespace kels::generate
+
+#endif  // KELS_GENERATE_RANDOM_H

@@ -1,0 +1,361 @@
+// Tone (sampled cosine) and triangle generators: the _Direct forms carry the
+// phase between calls through *pPhase; the Q15 forms keep magnitude,
+// frequency and phase in a small record with a sample counter.
+#include <cmath>
+
+#include "frame/common.h"
+#include "frame/malloc.h"
+#include "generate/generate.h"
+
+namespace kels::generate {
+namespace {
+
+// 1/(2 pi) as a double: the phase reduction forms its quotient with it.
+constexpr long double kInvTwoPi = 0.15915494309189535;
+
+// The recurrence of the tone restarts from exact cosines every kToneRestart
+// samples, so the error stays at a few units of extended precision however
+// long the vector is.
+constexpr int kToneRestart = 512;
+
+// Phase after len samples, reduced to [0, 2pi) of the parameter precision P;
+// anything the reduction leaves outside that range (rounding at the ends)
+// becomes 0, so the result is always accepted by the next call.
+template <class P>
+P next_phase(long double phase, long double omega, int len) {
+  long double p = omega * len + phase;
+  p -= kTwoPiL * std::floor(p * kInvTwoPi);
+  if (!(p >= 0 && p < kTwoPiL)) p = 0;
+  const P r = static_cast<P>(p);
+  return (r >= 0 && r < static_cast<P>(kTwoPiL)) ? r : P(0);
+}
+
+// True when phase lies in [0, 2pi) with 2pi rounded to the precision P (the
+// value that is refused).
+template <class P>
+bool phase_ok(P phase) {
+  return phase >= 0 && phase < static_cast<P>(kTwoPiL);
+}
+
+// Writes one element from its real (and, for complex types, imaginary) value.
+template <class T>
+void put(T& dst, long double re, long double im) {
+  using P = part_t<T>;
+  P* d = reinterpret_cast<P*>(&dst);
+  d[0] = to_part<P>(re);
+  if constexpr (is_complex_v<T>) d[1] = to_part<P>(im);
+}
+
+// y[k] = magn cos(phase + k omega) for k = k0 .. k0+m-1 (and the sine for
+// the imaginary part): two values from the cosine, two by the recurrence with
+// 2 cos(omega), the rest by two interleaved recurrences with step 2 omega.
+template <class T>
+void tone_block(T* dst, int k0, int m, long double magn, long double omega, long double phase) {
+  long double c[4], s[4];
+  for (int i = 0; i < 2; ++i) {
+    const long double arg = phase + (k0 + i) * omega;
+    c[i] = magn * std::cos(arg);
+    s[i] = is_complex_v<T> ? magn * std::sin(arg) : 0.0L;
+  }
+  const long double c1 = 2 * std::cos(omega);
+  c[2] = c1 * c[1] - c[0];
+  c[3] = c1 * c[2] - c[1];
+  s[2] = c1 * s[1] - s[0];
+  s[3] = c1 * s[2] - s[1];
+  const int head = m < 4 ? m : 4;
+  for (int i = 0; i < head; ++i) put(dst[i], c[i], s[i]);
+  const long double c2 = c1 * c1 - 2;
+  for (int i = 4; i < m; ++i) {
+    // Ring of the last four values: index i-4 and i-2 modulo 4.
+    const long double cy = c2 * c[(i - 2) & 3] - c[i & 3];
+    const long double sy = c2 * s[(i - 2) & 3] - s[i & 3];
+    c[i & 3] = cy;
+    s[i & 3] = sy;
+    put(dst[i], cy, sy);
+  }
+}
+
+template <class T, class P>
+KelStatus tone_direct(T* dst, int len, P magn, P rfreq, P* pphase) {
+  KELS_REQUIRE_PTRS(pphase);
+  if (!(magn > 0)) return kelStsToneMagn;
+  if (!(rfreq >= 0 && rfreq < P(0.5))) return kelStsToneFreq;
+  if (!phase_ok(*pphase)) return kelStsTonePhase;
+  KELS_REQUIRE_PTRS(dst);
+  KELS_REQUIRE_LEN(len);
+  const long double omega = kTwoPiL * rfreq;
+  const long double phase = *pphase;
+  *pphase = next_phase<P>(phase, omega, len);
+  for (int k0 = 0; k0 < len; k0 += kToneRestart) {
+    const int m = len - k0 < kToneRestart ? len - k0 : kToneRestart;
+    tone_block(dst + k0, k0, m, magn, omega, phase);
+  }
+  return kelStsOk;
+}
+
+// The triangle wave of magnitude M with its peak at phase 0, falling
+// linearly to -M at pi + asym and rising back to M at 2pi. At asym = -pi
+// the falling edge has zero length (phase 0 gives -M); at asym = pi the
+// rising edge has.
+struct TriangleShape {
+  long double magn, fall_end, fall_slope, rise_slope;
+  TriangleShape(long double m, long double asym) : magn(m) {
+    long double a = kPiL + asym;  // length of the falling edge
+    if (a < 0) a = 0;
+    if (a > kTwoPiL) a = kTwoPiL;
+    const long double b = kTwoPiL - a;
+    fall_end = a;
+    fall_slope = a > 0 ? 2 * m / a : 0;
+    rise_slope = b > 0 ? 2 * m / b : 0;
+  }
+  long double operator()(long double theta) const {
+    if (fall_end > 0 && theta <= fall_end) return magn - theta * fall_slope;
+    return (theta - fall_end) * rise_slope - magn;
+  }
+};
+
+// Each sample is evaluated from its own phase; the phase advances by omega
+// in extended precision and wraps at 2pi (omega < pi, so once at most).
+template <class T>
+void triangle_fill(T* dst, int len, const TriangleShape& shape, long double omega, long double phase) {
+  long double re = phase;
+  long double im = phase - kPiL / 2;  // a quarter period later
+  if (im < 0) im += kTwoPiL;
+  for (int k = 0; k < len; ++k) {
+    put(dst[k], shape(re), is_complex_v<T> ? shape(im) : 0.0L);
+    re += omega;
+    if (re >= kTwoPiL) re -= kTwoPiL;
+    im += omega;
+    if (im >= kTwoPiL) im -= kTwoPiL;
+  }
+}
+
+template <class T, class P>
+KelStatus triangle_direct(T* dst, int len, P magn, P rfreq, P asym, P* pphase) {
+  KELS_REQUIRE_PTRS(pphase);
+  if (!(magn > 0)) return kelStsTrnglMagn;
+  if (!(rfreq >= 0 && rfreq < P(0.5))) return kelStsTrnglFreq;
+  const P pi = static_cast<P>(kPiL);
+  if (!(asym >= -pi && asym <= pi)) return kelStsTrnglAsym;
+  if (!phase_ok(*pphase)) return kelStsTrnglPhase;
+  KELS_REQUIRE_PTRS(dst);
+  KELS_REQUIRE_LEN(len);
+  const long double omega = kTwoPiL * rfreq;
+  const long double phase = *pphase;
+  *pphase = next_phase<P>(phase, omega, len);
+  triangle_fill(dst, len, TriangleShape(magn, asym), omega, phase);
+  return kelStsOk;
+}
+
+// ---- Q15 records. Doubles sit at 4-byte offsets so that the layout (and
+// the size reported to callers) is the same on 32- and 64-bit targets.
+constexpr std::uint32_t kToneId = 0x4c4d535c;      // "\SML" in memory
+constexpr std::uint32_t kTriangleId = 0x4952545c;  // "\TRI" in memory
+constexpr Kel32s kQ15PhaseEnd = 205887;            // first phase refused
+constexpr Kel32s kQ15AsymMax = 102943;             // largest |asym| accepted
+
+#pragma pack(push, 4)
+struct ToneRecord {
+  std::uint32_t id;
+  double magn, rfreq, phase;
+  std::int32_t counter;
+  std::uint32_t allocated, started;
+};
+struct TriangleRecord {
+  std::uint32_t id;
+  double magn, rfreq, phase, asym;
+  std::int32_t counter;
+  std::uint32_t allocated, started;
+};
+#pragma pack(pop)
+static_assert(sizeof(ToneRecord) == 40, "tone record layout");
+static_assert(sizeof(TriangleRecord) == 48, "triangle record layout");
+
+double q15(long v) { return std::ldexp(static_cast<double>(v), -15); }
+
+KelStatus tone_q15_check(Kel16s magn, Kel16s rfreq, Kel32s phase) {
+  if (magn < 1) return kelStsToneMagn;
+  if (rfreq < 0 || rfreq >= 16384) return kelStsToneFreq;
+  if (phase < 0 || phase >= kQ15PhaseEnd) return kelStsTonePhase;
+  return kelStsOk;
+}
+
+KelStatus triangle_q15_check(Kel16s magn, Kel16s rfreq, Kel32s asym, Kel32s phase) {
+  if (magn < 1) return kelStsTrnglMagn;
+  if (rfreq < 0 || rfreq >= 16384) return kelStsTrnglFreq;
+  if (asym < -kQ15AsymMax || asym > kQ15AsymMax) return kelStsTrnglAsym;
+  if (phase < 0 || phase >= kQ15PhaseEnd) return kelStsTrnglPhase;
+  return kelStsOk;
+}
+
+ToneRecord make_tone(Kel16s magn, Kel16s rfreq, Kel32s phase) {
+  return ToneRecord{kToneId, double(magn), q15(rfreq), q15(phase), 0, 0, 0};
+}
+
+TriangleRecord make_triangle(Kel16s magn, Kel16s rfreq, Kel32s asym, Kel32s phase) {
+  return TriangleRecord{kTriangleId, double(magn), q15(rfreq), q15(phase), q15(asym), 0, 0, 0};
+}
+
+// The frequency is a multiple of 2^-15, so the wave repeats every 32768
+// samples: the counter enters the phase modulo 32768, which keeps the
+// argument small and exact however long the stream runs.
+long double q15_arg(double rfreq, double phase, std::uint32_t k) {
+  return kTwoPiL * rfreq * static_cast<long double>(k & 32767u) + phase;
+}
+
+// Sample k of the stream is magn cos(2 pi rfreq k + phase), one cosine per
+// sample in double precision, rounded half away from zero.
+void tone_q15_fill(Kel16s* dst, int len, ToneRecord& r) {
+  const std::uint32_t k0 = static_cast<std::uint32_t>(r.counter);
+  for (int i = 0; i < len; ++i) {
+    const double arg = static_cast<double>(q15_arg(r.rfreq, r.phase, k0 + static_cast<std::uint32_t>(i)));
+    dst[i] = round_saturate<Kel16s>(r.magn * std::cos(arg));
+  }
+  r.counter = static_cast<std::int32_t>(k0 + static_cast<std::uint32_t>(len));
+  r.started = 1;
+}
+
+void triangle_q15_fill(Kel16s* dst, int len, TriangleRecord& r) {
+  const TriangleShape shape(r.magn, r.asym);
+  const std::uint32_t k0 = static_cast<std::uint32_t>(r.counter);
+  for (int i = 0; i < len; ++i) {
+    long double arg = q15_arg(r.rfreq, r.phase, k0 + static_cast<std::uint32_t>(i));
+    arg -= kTwoPiL * std::floor(arg / kTwoPiL);
+    if (!(arg >= 0 && arg < kTwoPiL)) arg = 0;
+    dst[i] = round_saturate<Kel16s>(shape(arg));
+  }
+  r.counter = static_cast<std::int32_t>(k0 + static_cast<std::uint32_t>(len));
+  r.started = 1;
+}
+
+template <class R, class Fill>
+KelStatus q15_generate(Kel16s* dst, int len, void* state, std::uint32_t id, Fill fill) {
+  KELS_REQUIRE_PTRS(dst, state);
+  KELS_REQUIRE_LEN(len);
+  KELS_REQUIRE_ID(state, id);
+  R r = load_record<R>(state);
+  fill(dst, len, r);
+  store_record(state, r);
+  return kelStsOk;
+}
+
+template <class R>
+KelStatus q15_init_alloc(R** pp, const R& r) {
+  auto* p = static_cast<R*>(kels::aligned_alloc_bytes(sizeof(R)));
+  if (p == nullptr) return kelStsNoMemory;
+  R rec = r;
+  rec.allocated = 1;
+  store_record(p, rec);
+  *pp = p;
+  return kelStsOk;
+}
+
+// Releases a record made by InitAlloc; a record in caller memory is only
+// invalidated (its identifier cleared).
+template <class R>
+KelStatus q15_free(void* state, std::uint32_t id) {
+  KELS_REQUIRE_PTRS(state);
+  KELS_REQUIRE_ID(state, id);
+  const R r = load_record<R>(state);
+  if (r.allocated == 1) {
+    kels::aligned_free(state);
+  } else {
+    const std::uint32_t zero = 0;
+    std::memcpy(state, &zero, sizeof zero);
+  }
+  return kelStsOk;
+}
+
+}  // namespace
+}  // namespace kels::generate
+
+using namespace kels::generate;
+
+// (type code, element type, parameter type)
+#define KELS_TONE_MEMBERS(X) \
+  X(16s, Kel16s, Kel32f) X(16sc, Kel16sc, Kel32f) X(32f, Kel32f, Kel32f) \
+  X(32fc, Kel32fc, Kel32f) X(64f, Kel64f, Kel64f) X(64fc, Kel64fc, Kel64f)
+
+#define KELS_DEFINE_TONE(code, T, P)                                                             \
+  KELS_EXPORT KelStatus kelsTone_Direct_##code(T* pDst, int len, P magn, P rFreq, P* pPhase) {   \
+    return tone_direct<T, P>(pDst, len, magn, rFreq, pPhase);                                    \
+  }                                                                                              \
+  KELS_EXPORT KelStatus kelsTriangle_Direct_##code(T* pDst, int len, P magn, P rFreq, P asym,    \
+                                                   P* pPhase) {                                  \
+    return triangle_direct<T, P>(pDst, len, magn, rFreq, asym, pPhase);                          \
+  }
+
+KELS_FOR_MEMBERS(KELS_TONE_MEMBERS, KELS_DEFINE_TONE)
+
+// ---- Q15 tone. The Direct form checks the destination first, the Init
+// forms the record pointer first; both then test magnitude, frequency and
+// phase in that order.
+KELS_EXPORT KelStatus kelsToneQ15_Direct_16s(Kel16s* pDst, int len, Kel16s magn, Kel16s rFreqQ15,
+                                             Kel32s phaseQ15) {
+  KELS_REQUIRE_PTRS(pDst);
+  KELS_REQUIRE_LEN(len);
+  KELS_RETURN_IF_ERROR(tone_q15_check(magn, rFreqQ15, phaseQ15));
+  ToneRecord r = make_tone(magn, rFreqQ15, phaseQ15);
+  tone_q15_fill(pDst, len, r);
+  return kelStsOk;
+}
+KELS_EXPORT KelStatus kelsToneGetStateSizeQ15_16s(int* pStateSize) {
+  KELS_REQUIRE_PTRS(pStateSize);
+  *pStateSize = static_cast<int>(sizeof(ToneRecord));
+  return kelStsOk;
+}
+KELS_EXPORT KelStatus kelsToneInitQ15_16s(KelsToneState_16s* pState, Kel16s magn, Kel16s rFreqQ15,
+                                          Kel32s phaseQ15) {
+  KELS_REQUIRE_PTRS(pState);
+  KELS_RETURN_IF_ERROR(tone_q15_check(magn, rFreqQ15, phaseQ15));
+  store_record(pState, make_tone(magn, rFreqQ15, phaseQ15));
+  return kelStsOk;
+}
+KELS_EXPORT KelStatus kelsToneInitAllocQ15_16s(KelsToneState_16s** ppState, Kel16s magn, Kel16s rFreqQ15,
+                                               Kel32s phaseQ15) {
+  KELS_REQUIRE_PTRS(ppState);
+  KELS_RETURN_IF_ERROR(tone_q15_check(magn, rFreqQ15, phaseQ15));
+  return q15_init_alloc(reinterpret_cast<ToneRecord**>(ppState), make_tone(magn, rFreqQ15, phaseQ15));
+}
+KELS_EXPORT KelStatus kelsToneQ15_16s(Kel16s* pDst, int len, KelsToneState_16s* pState) {
+  return q15_generate<ToneRecord>(pDst, len, pState, kToneId, tone_q15_fill);
+}
+KELS_EXPORT KelStatus kelsToneFree(KelsToneState_16s* pState) {
+  return q15_free<ToneRecord>(pState, kToneId);
+}
+
+// ---- Q15 triangle: the same shapes with asym (checked after the frequency).
+KELS_EXPORT KelStatus kelsTriangleQ15_Direct_16s(Kel16s* pDst, int len, Kel16s magn, Kel16s rFreqQ15,
+                                                 Kel32s asymQ15, Kel32s phaseQ15) {
+  KELS_REQUIRE_PTRS(pDst);
+  KELS_REQUIRE_LEN(len);
+  KELS_RETURN_IF_ERROR(triangle_q15_check(magn, rFreqQ15, asymQ15, phaseQ15));
+  TriangleRecord r = make_triangle(magn, rFreqQ15, asymQ15, phaseQ15);
+  triangle_q15_fill(pDst, len, r);
+  return kelStsOk;
+}
+KELS_EXPORT KelStatus kelsTriangleGetStateSizeQ15_16s(int* pStateSize) {
+  KELS_REQUIRE_PTRS(pStateSize);
+  *pStateSize = static_cast<int>(sizeof(TriangleRecord));
+  return kelStsOk;
+}
+KELS_EXPORT KelStatus kelsTriangleInitQ15_16s(KelsTriangleState_16s* pState, Kel16s magn, Kel16s rFreqQ15,
+                                              Kel32s asymQ15, Kel32s phaseQ15) {
+  KELS_REQUIRE_PTRS(pState);
+  KELS_RETURN_IF_ERROR(triangle_q15_check(magn, rFreqQ15, asymQ15, phaseQ15));
+  store_record(pState, make_triangle(magn, rFreqQ15, asymQ15, phaseQ15));
+  return kelStsOk;
+}
+KELS_EXPORT KelStatus kelsTriangleInitAllocQ15_16s(KelsTriangleState_16s** ppState, Kel16s magn,
+                                                   Kel16s rFreqQ15, Kel32s asymQ15, Kel32s phaseQ15) {
+  KELS_REQUIRE_PTRS(ppState);
+  KELS_RETURN_IF_ERROR(triangle_q15_check(magn, rFreqQ15, asymQ15, phaseQ15));
+  return q15_init_alloc(reinterpret_cast<TriangleRecord**>(ppState),
+                        make_triangle(magn, rFreqQ15, asymQ15, phaseQ15));
+}
+KELS_EXPORT KelStatus kelsTriangleQ15_16s(Kel16s* pDst, int len, KelsTriangleState_16s* pState) {
+  return q15_generate<TriangleRecord>(pDst, len, pState, kTriangleId, triangle_q15_fill);
+}
+KELS_EXPORT KelStatus kelsTriangleFree(KelsTriangleState_16s* pState) {
+  return q15_free<TriangleRecord>(pState, kTriangleId);
+}
