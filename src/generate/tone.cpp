@@ -16,7 +16,7 @@ constexpr long double kInvTwoPi = 0.15915494309189535;
 // The recurrence of the tone restarts from exact cosines every kToneRestart
 // samples, so the error stays at a few units of extended precision however
 // long the vector is.
-constexpr int kToneRestart = 512;
+constexpr int kToneRestart = 128;
 
 // Phase after len samples, reduced to [0, 2pi) of the parameter precision P;
 // anything the reduction leaves outside that range (rounding at the ends)
@@ -48,30 +48,47 @@ void put(T& dst, long double re, long double im) {
 
 // y[k] = magn cos(phase + k omega) for k = k0 .. k0+m-1 (and the sine for
 // the imaginary part): two values from the cosine, two by the recurrence with
-// 2 cos(omega), the rest by two interleaved recurrences with step 2 omega.
+// 2 cos(omega), the rest by two interleaved recurrences with step 2 omega,
+// y[n] = 2 cos(2 omega) y[n-2] - y[n-4]. The recurrences are evaluated in
+// difference form (delta += d y; y += delta, with d = 2 cos - 2 computed from
+// a squared sine), which keeps them accurate when the step is near 0 or 2 pi
+// where 2 cos is close to 2.
+//
+// The block's first phase is reduced in cycles (k0 rfreq modulo 1) before it
+// is scaled by 2 pi, and the second is the first plus omega: two arguments
+// rounded independently at a large magnitude would disagree by more than the
+// recurrence can tolerate near the ends of the frequency range.
 template <class T>
-void tone_block(T* dst, int k0, int m, long double magn, long double omega, long double phase) {
+void tone_block(T* dst, int k0, int m, long double magn, long double rfreq, long double phase) {
+  const long double omega = kTwoPiL * rfreq;
+  const long double cycles = k0 * rfreq;
+  const long double a0 = phase + kTwoPiL * (cycles - std::floor(cycles));
   long double c[4], s[4];
   for (int i = 0; i < 2; ++i) {
-    const long double arg = phase + (k0 + i) * omega;
+    const long double arg = i == 0 ? a0 : a0 + omega;
     c[i] = magn * std::cos(arg);
     s[i] = is_complex_v<T> ? magn * std::sin(arg) : 0.0L;
   }
-  const long double c1 = 2 * std::cos(omega);
-  c[2] = c1 * c[1] - c[0];
-  c[3] = c1 * c[2] - c[1];
-  s[2] = c1 * s[1] - s[0];
-  s[3] = c1 * s[2] - s[1];
+  const long double h1 = std::sin(omega / 2), h2 = std::sin(omega);
+  const long double d1 = -4 * h1 * h1;  // 2 cos(omega) - 2
+  const long double d2 = -4 * h2 * h2;  // 2 cos(2 omega) - 2
+  c[2] = c[1] + (c[1] - c[0]) + d1 * c[1];
+  c[3] = c[2] + (c[2] - c[1]) + d1 * c[2];
+  s[2] = s[1] + (s[1] - s[0]) + d1 * s[1];
+  s[3] = s[2] + (s[2] - s[1]) + d1 * s[2];
   const int head = m < 4 ? m : 4;
   for (int i = 0; i < head; ++i) put(dst[i], c[i], s[i]);
-  const long double c2 = c1 * c1 - 2;
+  if (m <= 4) return;
+  // Lane p (parity of the index) keeps its last value and last difference.
+  long double cy[2] = {c[2], c[3]}, cd[2] = {c[2] - c[0], c[3] - c[1]};
+  long double sy[2] = {s[2], s[3]}, sd[2] = {s[2] - s[0], s[3] - s[1]};
   for (int i = 4; i < m; ++i) {
-    // Ring of the last four values: index i-4 and i-2 modulo 4.
-    const long double cy = c2 * c[(i - 2) & 3] - c[i & 3];
-    const long double sy = c2 * s[(i - 2) & 3] - s[i & 3];
-    c[i & 3] = cy;
-    s[i & 3] = sy;
-    put(dst[i], cy, sy);
+    const int p = i & 1;
+    cd[p] += d2 * cy[p];
+    cy[p] += cd[p];
+    sd[p] += d2 * sy[p];
+    sy[p] += sd[p];
+    put(dst[i], cy[p], sy[p]);
   }
 }
 
@@ -88,7 +105,7 @@ KelStatus tone_direct(T* dst, int len, P magn, P rfreq, P* pphase) {
   *pphase = next_phase<P>(phase, omega, len);
   for (int k0 = 0; k0 < len; k0 += kToneRestart) {
     const int m = len - k0 < kToneRestart ? len - k0 : kToneRestart;
-    tone_block(dst + k0, k0, m, magn, omega, phase);
+    tone_block(dst + k0, k0, m, magn, static_cast<long double>(rfreq), phase);
   }
   return kelStsOk;
 }
