@@ -10,6 +10,8 @@
 #include <limits>
 #include <type_traits>
 
+#include "frame/common.h"
+#include "frame/malloc.h"
 #include "kels.h"
 
 namespace kels::generate {
@@ -59,6 +61,33 @@ R load_record(const void* p) {
 template <class R>
 void store_record(void* p, const R& r) {
   std::memcpy(p, &r, sizeof r);
+}
+
+// InitAlloc: a library block holding record r with its allocated flag set.
+template <class R>
+KelStatus alloc_record(R** pp, R r) {
+  KELS_REQUIRE_PTRS(pp);
+  auto* p = static_cast<R*>(kels::aligned_alloc_bytes(sizeof(R)));
+  if (p == nullptr) return kelStsNoMemory;
+  r.allocated = 1;
+  store_record(p, r);
+  *pp = p;
+  return kelStsOk;
+}
+
+// Free: releases a record made by InitAlloc; a record in caller memory (made
+// by Init) is only invalidated by clearing its identifier.
+template <class R>
+KelStatus release_record(void* state, std::uint32_t id) {
+  KELS_REQUIRE_PTRS(state);
+  KELS_REQUIRE_ID(state, id);
+  if (load_record<R>(state).allocated == 1) {
+    kels::aligned_free(state);
+  } else {
+    const std::uint32_t zero = 0;
+    std::memcpy(state, &zero, sizeof zero);
+  }
+  return kelStsOk;
 }
 
 constexpr long double kPiL = 3.141592653589793238462643383279502884L;

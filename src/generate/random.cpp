@@ -85,27 +85,31 @@ void gauss_fill(T* dst, int len, double mean, double std_dev, RandomWords& w) {
   }
 }
 
-template <class T>
-KelStatus uniform_direct(T* dst, int len, T low, T high, unsigned int* pseed) {
+// _Direct forms: a generator started from *pSeed fills the vector, and the
+// last subtract-with-borrow word becomes the next seed.
+template <class T, class Fill>
+KelStatus direct(T* dst, int len, unsigned int* pseed, Fill fill) {
   KELS_REQUIRE_PTRS(dst, pseed);
   KELS_REQUIRE_LEN(len);
   RandomWords w = seed_words(*pseed);
-  using F = std::conditional_t<std::is_same_v<T, Kel64f>, long double, double>;
-  const F mid = (static_cast<F>(low) + static_cast<F>(high)) / 2;
-  const F scale = (static_cast<F>(high) - static_cast<F>(low)) * static_cast<F>(0x1p-32);
-  uniform_fill(dst, len, mid, scale, w);
+  fill(w);
   *pseed = w.x1;
   return kelStsOk;
 }
 
 template <class T>
+KelStatus uniform_direct(T* dst, int len, T low, T high, unsigned int* pseed) {
+  using F = std::conditional_t<std::is_same_v<T, Kel64f>, long double, double>;
+  const F mid = (static_cast<F>(low) + static_cast<F>(high)) / 2;
+  const F scale = (static_cast<F>(high) - static_cast<F>(low)) * static_cast<F>(0x1p-32);
+  return direct(dst, len, pseed, [&](RandomWords& w) { uniform_fill(dst, len, mid, scale, w); });
+}
+
+template <class T>
 KelStatus gauss_direct(T* dst, int len, T mean, T std_dev, unsigned int* pseed) {
-  KELS_REQUIRE_PTRS(dst, pseed);
-  KELS_REQUIRE_LEN(len);
-  RandomWords w = seed_words(*pseed);
-  gauss_fill(dst, len, static_cast<double>(mean), static_cast<double>(std_dev), w);
-  *pseed = w.x1;
-  return kelStsOk;
+  return direct(dst, len, pseed, [&](RandomWords& w) {
+    gauss_fill(dst, len, static_cast<double>(mean), static_cast<double>(std_dev), w);
+  });
 }
 
 template <class T>
@@ -155,17 +159,6 @@ KelStatus generate_state(T* dst, int len, void* state, std::int32_t id) {
 }
 
 template <class R>
-KelStatus init_alloc(R** pp, R r) {
-  KELS_REQUIRE_PTRS(pp);
-  auto* p = static_cast<R*>(kels::aligned_alloc_bytes(sizeof(R)));
-  if (p == nullptr) return kelStsNoMemory;
-  r.allocated = 1;
-  store_record(p, r);
-  *pp = p;
-  return kelStsOk;
-}
-
-template <class R>
 KelStatus init_caller(void* p, const R& r) {
   KELS_REQUIRE_PTRS(p);
   store_record(p, r);
@@ -176,22 +169,6 @@ template <class R>
 KelStatus get_size(int* psize) {
   KELS_REQUIRE_PTRS(psize);
   *psize = static_cast<int>(sizeof(R));
-  return kelStsOk;
-}
-
-// Releases a record made by InitAlloc; one in caller memory is only
-// invalidated (identifier cleared), its memory stays the caller's.
-template <class R>
-KelStatus free_state(void* state, std::int32_t id) {
-  KELS_REQUIRE_PTRS(state);
-  KELS_REQUIRE_ID(state, static_cast<std::uint32_t>(id));
-  const R r = load_record<R>(state);
-  if (r.allocated == 1) {
-    kels::aligned_free(state);
-  } else {
-    const std::int32_t zero = 0;
-    std::memcpy(state, &zero, sizeof zero);
-  }
   return kelStsOk;
 }
 
@@ -217,13 +194,13 @@ using namespace kels::generate;
 #define KELS_DEFINE_RAND_STATE_KIND(Kind, Rec, State, make, idfn, code, T)                       \
   KELS_EXPORT KelStatus kelsRand##Kind##InitAlloc_##code(State##_##code** ppState, T a, T b,     \
                                                          unsigned int seed) {                     \
-    return init_alloc(reinterpret_cast<Rec<T>**>(ppState), make<T>(a, b, seed));                  \
+    return alloc_record(reinterpret_cast<Rec<T>**>(ppState), make<T>(a, b, seed));                  \
   }                                                                                               \
   KELS_EXPORT KelStatus kelsRand##Kind##_##code(T* pDst, int len, State##_##code* pState) {      \
     return generate_state<Rec<T>>(pDst, len, pState, idfn<T>());                                  \
   }                                                                                               \
   KELS_EXPORT KelStatus kelsRand##Kind##Free_##code(State##_##code* pState) {                    \
-    return free_state<Rec<T>>(pState, idfn<T>());                                                 \
+    return release_record<Rec<T>>(pState, static_cast<std::uint32_t>(idfn<T>()));                                                 \
   }
 #define KELS_DEFINE_RAND_STATE(code, T)                                                                 \
   KELS_DEFINE_RAND_STATE_KIND(Uniform, UniformRecord, KelsRandUniState, make_uniform, uniform_id, code, T) \

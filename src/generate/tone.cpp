@@ -256,33 +256,6 @@ KelStatus q15_generate(Kel16s* dst, int len, void* state, std::uint32_t id, Fill
   return kelStsOk;
 }
 
-template <class R>
-KelStatus q15_init_alloc(R** pp, const R& r) {
-  auto* p = static_cast<R*>(kels::aligned_alloc_bytes(sizeof(R)));
-  if (p == nullptr) return kelStsNoMemory;
-  R rec = r;
-  rec.allocated = 1;
-  store_record(p, rec);
-  *pp = p;
-  return kelStsOk;
-}
-
-// Releases a record made by InitAlloc; a record in caller memory is only
-// invalidated (its identifier cleared).
-template <class R>
-KelStatus q15_free(void* state, std::uint32_t id) {
-  KELS_REQUIRE_PTRS(state);
-  KELS_REQUIRE_ID(state, id);
-  const R r = load_record<R>(state);
-  if (r.allocated == 1) {
-    kels::aligned_free(state);
-  } else {
-    const std::uint32_t zero = 0;
-    std::memcpy(state, &zero, sizeof zero);
-  }
-  return kelStsOk;
-}
-
 }  // namespace
 }  // namespace kels::generate
 
@@ -332,13 +305,13 @@ KELS_EXPORT KelStatus kelsToneInitAllocQ15_16s(KelsToneState_16s** ppState, Kel1
                                                Kel32s phaseQ15) {
   KELS_REQUIRE_PTRS(ppState);
   KELS_RETURN_IF_ERROR(tone_q15_check(magn, rFreqQ15, phaseQ15));
-  return q15_init_alloc(reinterpret_cast<ToneRecord**>(ppState), make_tone(magn, rFreqQ15, phaseQ15));
+  return alloc_record(reinterpret_cast<ToneRecord**>(ppState), make_tone(magn, rFreqQ15, phaseQ15));
 }
 KELS_EXPORT KelStatus kelsToneQ15_16s(Kel16s* pDst, int len, KelsToneState_16s* pState) {
   return q15_generate<ToneRecord>(pDst, len, pState, kToneId, tone_q15_fill);
 }
 KELS_EXPORT KelStatus kelsToneFree(KelsToneState_16s* pState) {
-  return q15_free<ToneRecord>(pState, kToneId);
+  return release_record<ToneRecord>(pState, kToneId);
 }
 
 // ---- Q15 triangle: the same shapes with asym (checked after the frequency).
@@ -367,12 +340,12 @@ KELS_EXPORT KelStatus kelsTriangleInitAllocQ15_16s(KelsTriangleState_16s** ppSta
                                                    Kel16s rFreqQ15, Kel32s asymQ15, Kel32s phaseQ15) {
   KELS_REQUIRE_PTRS(ppState);
   KELS_RETURN_IF_ERROR(triangle_q15_check(magn, rFreqQ15, asymQ15, phaseQ15));
-  return q15_init_alloc(reinterpret_cast<TriangleRecord**>(ppState),
+  return alloc_record(reinterpret_cast<TriangleRecord**>(ppState),
                         make_triangle(magn, rFreqQ15, asymQ15, phaseQ15));
 }
 KELS_EXPORT KelStatus kelsTriangleQ15_16s(Kel16s* pDst, int len, KelsTriangleState_16s* pState) {
   return q15_generate<TriangleRecord>(pDst, len, pState, kTriangleId, triangle_q15_fill);
 }
 KELS_EXPORT KelStatus kelsTriangleFree(KelsTriangleState_16s* pState) {
-  return q15_free<TriangleRecord>(pState, kTriangleId);
+  return release_record<TriangleRecord>(pState, kTriangleId);
 }
