@@ -8,6 +8,7 @@
 #include "frame/malloc.h"
 #include "generate/generate.h"
 #include "generate/random.h"
+#include "kernels/generate.h"
 
 namespace kels::generate {
 namespace {
@@ -66,22 +67,35 @@ void uniform_fill(T* dst, int len, F mid, F scale, RandomWords& w) {
 // against 2^62), so it never depends on rounding. The pair yields
 // mean + stdDev f u2, then mean + stdDev f u1 with f = sqrt(-2 ln s / s);
 // an odd length drops the last second value.
+//
+// The serial generator first collects a block of accepted pairs; the
+// factors of the whole block then go through the vector kernel.
 template <class T>
 void gauss_fill(T* dst, int len, double mean, double std_dev, RandomWords& w) {
   constexpr std::uint64_t kOne = std::uint64_t{1} << 62;
+  constexpr int kPairs = 256;
+  std::int32_t r1[kPairs], r2[kPairs];
+  double s[kPairs], f[kPairs];
   int i = 0;
   while (i < len) {
-    std::int32_t r1, r2;
-    std::uint64_t q;
-    do {
-      r1 = next_raw(w);
-      r2 = next_raw(w);
-      q = static_cast<std::uint64_t>(std::int64_t{r1} * r1) + static_cast<std::uint64_t>(std::int64_t{r2} * r2);
-    } while (q >= kOne || q == 0);
-    const double s = std::ldexp(static_cast<double>(q), -62);
-    const double f = std_dev * std::sqrt(-2.0 * std::log(s) / s);
-    dst[i++] = to_part<T>(mean + f * std::ldexp(static_cast<double>(r2), -31));
-    if (i < len) dst[i++] = to_part<T>(mean + f * std::ldexp(static_cast<double>(r1), -31));
+    const int rest = (len - i + 1) / 2;
+    const int pairs = rest < kPairs ? rest : kPairs;
+    for (int p = 0; p < pairs; ++p) {
+      std::uint64_t q;
+      do {
+        r1[p] = next_raw(w);
+        r2[p] = next_raw(w);
+        q = static_cast<std::uint64_t>(std::int64_t{r1[p]} * r1[p]) +
+            static_cast<std::uint64_t>(std::int64_t{r2[p]} * r2[p]);
+      } while (q >= kOne || q == 0);
+      s[p] = static_cast<double>(q) * 0x1p-62;
+    }
+    kernels::gauss_factors(s, f, static_cast<std::size_t>(pairs));
+    for (int p = 0; p < pairs; ++p) {
+      const double g = std_dev * f[p];
+      dst[i++] = to_part<T>(mean + g * (static_cast<double>(r2[p]) * 0x1p-31));
+      if (i < len) dst[i++] = to_part<T>(mean + g * (static_cast<double>(r1[p]) * 0x1p-31));
+    }
   }
 }
 
