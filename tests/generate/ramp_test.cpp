@@ -52,7 +52,9 @@ void check_type(Funcs<T> f, T magn) {
     }
     std::vector<T> j(static_cast<std::size_t>(len));
     ASSERT_EQ(f.jaehne(j.data(), len, magn), kelStsOk);
-    if (len == 1 || std::is_signed_v<T> || std::is_floating_point_v<T>) EXPECT_EQ(j[0], T(0));
+    if (len == 1 || std::is_signed_v<T> || std::is_floating_point_v<T>) {
+      EXPECT_EQ(j[0], T(0));
+    }
     if constexpr (std::is_signed_v<T> || std::is_floating_point_v<T>) {
       for (int n = 0; n < len; ++n) {
         ASSERT_EQ(j[n], model_round<T>(static_cast<double>(magn) * jaehne_sine(n, len))) << "jaehne n " << n;
@@ -71,7 +73,9 @@ void check_type(Funcs<T> f, T magn) {
         has_magn |= j[n] == magn;
       }
       EXPECT_TRUE(has_zero);
-      if (len >= 3) EXPECT_TRUE(has_magn);
+      if (len >= 3) {
+        EXPECT_TRUE(has_magn);
+      }
       // The work vector's allocation failure is reported and nothing is written.
       Guarded<T> g(static_cast<std::size_t>(len));
       kels::fail_alloc_after(1);

@@ -79,13 +79,17 @@ void check_tone(bool triangle) {
         const ld re = triangle ? triangle_ref(th, m, h) : m * std::cos(th);
         const ld im = triangle ? triangle_ref(th - kPi / 2, m, h) : m * std::sin(th);
         ASSERT_NEAR(part(d, n, 0), re, tolerance<T>(m)) << "len " << len << " f " << f << " n " << n;
-        if (Tr<T>::parts == 2) ASSERT_NEAR(part(d, n, 1), im, tolerance<T>(m)) << "imag, n " << n;
+        if (Tr<T>::parts == 2) {
+          ASSERT_NEAR(part(d, n, 1), im, tolerance<T>(m)) << "imag, n " << n;
+        }
       }
       const ld expect = wrap(ph0 + 2 * kPi * static_cast<ld>(f) * len);
       const ld diff = std::fabs(phase - expect);
       EXPECT_LT(std::min(diff, 2 * kPi - diff), 16 * std::numeric_limits<P>::epsilon() * (1 + len * f * 8))
           << "phase after len " << len;
-      if (f == 0) EXPECT_EQ(phase, P(1.25));
+      if (f == 0) {
+        EXPECT_EQ(phase, P(1.25));
+      }
     }
   }
 }
@@ -206,7 +210,9 @@ TEST(ToneQ15, DirectMatchesFormula) {
       for (int k = 0; k < 1000; ++k) {
         const ld v = 12345 * std::cos(2 * kPi * (f / 32768.0L) * k + ph / 32768.0L);
         ASSERT_LE(std::fabs(d[k] - v), 0.5L + 1e-7L) << f << " " << ph << " " << k;
-        if (std::fabs(std::fabs(v - std::trunc(v)) - 0.5L) > 1e-6L) ASSERT_EQ(d[k], round_away(v));
+        if (std::fabs(std::fabs(v - std::trunc(v)) - 0.5L) > 1e-6L) {
+          ASSERT_EQ(d[k], round_away(v));
+        }
       }
     }
   }

@@ -100,8 +100,12 @@ TEST(Companding, EncodersOverAllInputs) {
     const int da = alaw_value(a[i]), dm = mulaw_value(m[i]);
     const int ea = ((a[i] ^ 0x55) >> 4) & 7, em = ((~m[i]) >> 4) & 7;
     const int step_a = ea < 2 ? 16 : 16 << (ea - 1), step_m = 8 << em;
-    if (xi < 32768 - 1024) EXPECT_LE(std::abs(xi - da), step_a / 2 + 8) << "A-law x=" << xi;
-    if (std::abs(xi) < 32124) EXPECT_LE(std::abs(xi - dm), step_m / 2 + 4) << "mu-law x=" << xi;
+    if (xi < 32768 - 1024) {
+      EXPECT_LE(std::abs(xi - da), step_a / 2 + 8) << "A-law x=" << xi;
+    }
+    if (std::abs(xi) < 32124) {
+      EXPECT_LE(std::abs(xi - dm), step_m / 2 + 4) << "mu-law x=" << xi;
+    }
     EXPECT_GE(da, prev_a) << xi;
     EXPECT_GE(dm, prev_m) << xi;
     prev_a = da;
@@ -177,8 +181,12 @@ TEST(Companding, TranscodingTables) {
     EXPECT_LE(std::abs(mulaw_value(a2m[c]) - va), std::max(64, std::abs(va) / 8)) << c;
     EXPECT_LE(std::abs(alaw_value(m2a[c]) - vm), std::max(64, std::abs(vm) / 8)) << c;
     for (int d = 0; d < 256; ++d) {
-      if (alaw_value(c) < alaw_value(d)) EXPECT_LE(mulaw_value(a2m[c]), mulaw_value(a2m[d]));
-      if (mulaw_value(c) < mulaw_value(d)) EXPECT_LE(alaw_value(m2a[c]), alaw_value(m2a[d]));
+      if (alaw_value(c) < alaw_value(d)) {
+        EXPECT_LE(mulaw_value(a2m[c]), mulaw_value(a2m[d]));
+      }
+      if (mulaw_value(c) < mulaw_value(d)) {
+        EXPECT_LE(alaw_value(m2a[c]), alaw_value(m2a[d]));
+      }
     }
   }
 }
