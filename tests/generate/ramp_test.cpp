@@ -42,7 +42,7 @@ template <class T>
 void check_type(Funcs<T> f, T magn) {
   for (int len : {1, 2, 3, 10, 1001}) {
     for (auto [o, s] : {std::pair{0.0f, 1.0f}, {-100.5f, 0.25f}, {3e9f, -1e7f}, {1.5f, 0.5f}}) {
-      Guarded<T> d(static_cast<std::size_t>(len), 1);
+      Guarded<T> d(static_cast<std::size_t>(len), alignof(T));  // off the vector alignment
       ASSERT_EQ(f.ramp(d.data(), len, o, s), kelStsOk);
       ASSERT_TRUE(d.guards_intact());
       for (int n = 0; n < len; ++n) {
