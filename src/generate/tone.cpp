@@ -18,12 +18,26 @@ constexpr long double kInvTwoPi = 0.15915494309189535;
 // long the vector is.
 constexpr int kToneRestart = 128;
 
-// Phase after len samples, reduced to [0, 2pi) of the parameter precision P;
+// The fraction of k * rfreq (cycles completed after k samples), accurate to
+// extended precision for every k below 2^31: rfreq is split into a high part
+// of 30 fraction bits, whose product with k is exact in the 64-bit mantissa,
+// and a small remainder.
+long double cycles_frac(double rfreq, std::uint32_t k) {
+  const double hi = std::ldexp(std::floor(std::ldexp(rfreq, 30)), -30);
+  const double lo = rfreq - hi;  // exact
+  long double c = static_cast<long double>(hi) * k;
+  c -= std::floor(c);
+  c += static_cast<long double>(lo) * k;
+  return c - std::floor(c);
+}
+
+// Phase after len samples, phase + 2 pi rfreq len reduced to [0, 2pi) of the
+// parameter precision P (the cycles are reduced before the scaling by 2 pi);
 // anything the reduction leaves outside that range (rounding at the ends)
 // becomes 0, so the result is always accepted by the next call.
 template <class P>
-P next_phase(long double phase, long double omega, int len) {
-  long double p = omega * len + phase;
+P next_phase(long double phase, double rfreq, int len) {
+  long double p = phase + kTwoPiL * cycles_frac(rfreq, static_cast<std::uint32_t>(len));
   p -= kTwoPiL * std::floor(p * kInvTwoPi);
   if (!(p >= 0 && p < kTwoPiL)) p = 0;
   const P r = static_cast<P>(p);
@@ -54,15 +68,14 @@ void put(T& dst, long double re, long double im) {
 // a squared sine), which keeps them accurate when the step is near 0 or 2 pi
 // where 2 cos is close to 2.
 //
-// The block's first phase is reduced in cycles (k0 rfreq modulo 1) before it
-// is scaled by 2 pi, and the second is the first plus omega: two arguments
-// rounded independently at a large magnitude would disagree by more than the
-// recurrence can tolerate near the ends of the frequency range.
+// The block's first phase is reduced in cycles (k0 rfreq modulo 1, exactly)
+// before it is scaled by 2 pi, and the second is the first plus omega: two
+// arguments rounded independently at a large magnitude would disagree by
+// more than the recurrence can tolerate near the ends of the frequency range.
 template <class T>
-void tone_block(T* dst, int k0, int m, long double magn, long double rfreq, long double phase) {
+void tone_block(T* dst, int k0, int m, long double magn, double rfreq, long double phase) {
   const long double omega = kTwoPiL * rfreq;
-  const long double cycles = k0 * rfreq;
-  const long double a0 = phase + kTwoPiL * (cycles - std::floor(cycles));
+  const long double a0 = phase + kTwoPiL * cycles_frac(rfreq, static_cast<std::uint32_t>(k0));
   long double c[4], s[4];
   for (int i = 0; i < 2; ++i) {
     const long double arg = i == 0 ? a0 : a0 + omega;
@@ -100,12 +113,11 @@ KelStatus tone_direct(T* dst, int len, P magn, P rfreq, P* pphase) {
   if (!phase_ok(*pphase)) return kelStsTonePhase;
   KELS_REQUIRE_PTRS(dst);
   KELS_REQUIRE_LEN(len);
-  const long double omega = kTwoPiL * rfreq;
   const long double phase = *pphase;
-  *pphase = next_phase<P>(phase, omega, len);
+  *pphase = next_phase<P>(phase, rfreq, len);
   for (int k0 = 0; k0 < len; k0 += kToneRestart) {
     const int m = len - k0 < kToneRestart ? len - k0 : kToneRestart;
-    tone_block(dst + k0, k0, m, magn, static_cast<long double>(rfreq), phase);
+    tone_block(dst + k0, k0, m, magn, static_cast<double>(rfreq), phase);
   }
   return kelStsOk;
 }
@@ -132,13 +144,19 @@ struct TriangleShape {
 };
 
 // Each sample is evaluated from its own phase; the phase advances by omega
-// in extended precision and wraps at 2pi (omega < pi, so once at most).
+// in extended precision and wraps at 2pi (omega < pi, so once at most), and
+// is recomputed exactly at the start of every block of kToneRestart samples.
 template <class T>
-void triangle_fill(T* dst, int len, const TriangleShape& shape, long double omega, long double phase) {
-  long double re = phase;
-  long double im = phase - kPiL / 2;  // a quarter period later
-  if (im < 0) im += kTwoPiL;
+void triangle_fill(T* dst, int len, const TriangleShape& shape, double rfreq, long double phase) {
+  const long double omega = kTwoPiL * rfreq;
+  long double re = 0, im = 0;
   for (int k = 0; k < len; ++k) {
+    if (k % kToneRestart == 0) {
+      re = phase + kTwoPiL * cycles_frac(rfreq, static_cast<std::uint32_t>(k));
+      if (re >= kTwoPiL) re -= kTwoPiL;
+      im = re - kPiL / 2;  // a quarter period later
+      if (im < 0) im += kTwoPiL;
+    }
     put(dst[k], shape(re), is_complex_v<T> ? shape(im) : 0.0L);
     re += omega;
     if (re >= kTwoPiL) re -= kTwoPiL;
@@ -157,10 +175,9 @@ KelStatus triangle_direct(T* dst, int len, P magn, P rfreq, P asym, P* pphase) {
   if (!phase_ok(*pphase)) return kelStsTrnglPhase;
   KELS_REQUIRE_PTRS(dst);
   KELS_REQUIRE_LEN(len);
-  const long double omega = kTwoPiL * rfreq;
   const long double phase = *pphase;
-  *pphase = next_phase<P>(phase, omega, len);
-  triangle_fill(dst, len, TriangleShape(magn, asym), omega, phase);
+  *pphase = next_phase<P>(phase, rfreq, len);
+  triangle_fill(dst, len, TriangleShape(magn, asym), rfreq, phase);
   return kelStsOk;
 }
 
