@@ -111,3 +111,4 @@ BENCHMARK(BM_RandGauss32f_kels)->Apply(gen_sizes);
 BENCHMARK(BM_RandGauss32f_loop)->Apply(gen_sizes);
 BENCHMARK(BM_LinToMuLaw16s8u_kels)->Apply(gen_sizes);
 BENCHMARK(BM_LinToMuLaw16s8u_loop)->Apply(gen_sizes);
+BENCHMARK_MAIN();

@@ -80,15 +80,15 @@ void gauss_fill(T* dst, int len, double mean, double std_dev, RandomWords& w) {
   while (i < len) {
     const int rest = (len - i + 1) / 2;
     const int pairs = rest < kPairs ? rest : kPairs;
-    for (int p = 0; p < pairs; ++p) {
-      std::uint64_t q;
-      do {
-        r1[p] = next_raw(w);
-        r2[p] = next_raw(w);
-        q = static_cast<std::uint64_t>(std::int64_t{r1[p]} * r1[p]) +
-            static_cast<std::uint64_t>(std::int64_t{r2[p]} * r2[p]);
-      } while (q >= kOne || q == 0);
+    // Every drawn pair is written at slot p; only an accepted one advances p
+    // (no branch on the one-in-five rejections).
+    for (int p = 0; p < pairs;) {
+      r1[p] = next_raw(w);
+      r2[p] = next_raw(w);
+      const std::uint64_t q = static_cast<std::uint64_t>(std::int64_t{r1[p]} * r1[p]) +
+                              static_cast<std::uint64_t>(std::int64_t{r2[p]} * r2[p]);
       s[p] = static_cast<double>(q) * 0x1p-62;
+      p += static_cast<int>((q < kOne) & (q != 0));
     }
     kernels::gauss_factors(s, f, static_cast<std::size_t>(pairs));
     for (int p = 0; p < pairs; ++p) {

@@ -28,16 +28,13 @@ inline RandomWords seed_words(std::uint32_t seed) {
 }
 
 // One step of both sequences; returns x[n] + g[n] read as a signed value.
+// The borrow is the sign of t, taken without a branch (it is as likely set as
+// not, so a branch would be mispredicted half the time).
 inline std::int32_t next_raw(RandomWords& w) {
   const std::uint32_t t = w.x2 - w.x3 + w.c;
-  std::uint32_t x;
-  if (static_cast<std::int32_t>(t) < 0) {
-    x = t - 18u;
-    w.c = 0xFFFFFFFFu;
-  } else {
-    x = t;
-    w.c = 0;
-  }
+  const std::uint32_t borrow = 0u - (t >> 31);  // all ones when t is negative
+  const std::uint32_t x = t - (borrow & 18u);
+  w.c = borrow;
   w.x3 = w.x2;
   w.x2 = w.x1;
   w.x1 = x;
