@@ -15,8 +15,8 @@ constexpr long double kInvTwoPi = 0.15915494309189535;
 
 // The recurrence of the tone restarts from exact cosines every kToneRestart
 // samples, so the error stays at a few units of extended precision however
-// long the vector is.
-constexpr int kToneRestart = 128;
+// long the vector is (the restart costs four elementary functions).
+constexpr int kToneRestart = 512;
 
 // The fraction of k * rfreq (cycles completed after k samples), accurate to
 // extended precision for every k below 2^31: rfreq is split into a high part
@@ -99,8 +99,10 @@ void tone_block(T* dst, int k0, int m, long double magn, double rfreq, long doub
     const int p = i & 1;
     cd[p] += d2 * cy[p];
     cy[p] += cd[p];
-    sd[p] += d2 * sy[p];
-    sy[p] += sd[p];
+    if constexpr (is_complex_v<T>) {
+      sd[p] += d2 * sy[p];
+      sy[p] += sd[p];
+    }
     put(dst[i], cy[p], sy[p]);
   }
 }

@@ -13,7 +13,7 @@ namespace {
 
 // Pairs per weight block. The cosine recurrence restarts from exact values
 // at every block, which bounds its error growth independently of the length.
-constexpr int kBlock = 64;
+constexpr int kBlock = 256;
 
 // Multiplies one element by a weight. Floating parts use the weight rounded
 // to their own precision; 16-bit parts multiply in double, scale by
