@@ -92,18 +92,31 @@ void tone_block(T* dst, int k0, int m, long double magn, double rfreq, long doub
   const int head = m < 4 ? m : 4;
   for (int i = 0; i < head; ++i) put(dst[i], c[i], s[i]);
   if (m <= 4) return;
-  // Lane p (parity of the index) keeps its last value and last difference.
-  long double cy[2] = {c[2], c[3]}, cd[2] = {c[2] - c[0], c[3] - c[1]};
-  long double sy[2] = {s[2], s[3]}, sd[2] = {s[2] - s[0], s[3] - s[1]};
-  for (int i = 4; i < m; ++i) {
-    const int p = i & 1;
-    cd[p] += d2 * cy[p];
-    cy[p] += cd[p];
+  // Two chains (even and odd indices), each keeping its last value and last
+  // difference in registers.
+  long double c0 = c[2], c1 = c[3], e0 = c[2] - c[0], e1 = c[3] - c[1];
+  long double s0 = s[2], s1 = s[3], f0 = s[2] - s[0], f1 = s[3] - s[1];
+  int i = 4;
+  for (; i + 1 < m; i += 2) {
+    e0 += d2 * c0;
+    c0 += e0;
+    e1 += d2 * c1;
+    c1 += e1;
     if constexpr (is_complex_v<T>) {
-      sd[p] += d2 * sy[p];
-      sy[p] += sd[p];
+      f0 += d2 * s0;
+      s0 += f0;
+      f1 += d2 * s1;
+      s1 += f1;
     }
-    put(dst[i], cy[p], sy[p]);
+    put(dst[i], c0, s0);
+    put(dst[i + 1], c1, s1);
+  }
+  if (i < m) {
+    e0 += d2 * c0;
+    c0 += e0;
+    f0 += d2 * s0;
+    s0 += f0;
+    put(dst[i], c0, s0);
   }
 }
 

@@ -15,11 +15,17 @@ namespace {
 // at every block, which bounds its error growth independently of the length.
 constexpr int kBlock = 256;
 
+// Working precision of the weights: extended for the double-precision
+// types, double for the others (whose results are rounded to float or to
+// 16-bit integers).
+template <class T>
+using weight_t = std::conditional_t<std::is_same_v<part_t<T>, Kel64f>, long double, double>;
+
 // Multiplies one element by a weight. Floating parts use the weight rounded
 // to their own precision; 16-bit parts multiply in double, scale by
 // 2^-scaleFactor (exact), round half away from zero and saturate.
-template <class T>
-void weigh(const T& src, T& dst, long double w, int sf) {
+template <class T, class F>
+void weigh(const T& src, T& dst, F w, int sf) {
   using P = part_t<T>;
   const P* s = reinterpret_cast<const P*>(&src);
   P* d = reinterpret_cast<P*>(&dst);
@@ -38,8 +44,9 @@ void weigh(const T& src, T& dst, long double w, int sf) {
 // weight 1.
 template <class T, class Gen>
 void apply_symmetric(const T* src, T* dst, int len, const Gen& gen, int sf) {
+  using F = typename Gen::type;
   const int half = len / 2;
-  long double w[kBlock];
+  F w[kBlock + 4];
   for (int k0 = 0; k0 < half; k0 += kBlock) {
     const int m = std::min(kBlock, half - k0);
     gen(k0, m, w);
@@ -49,52 +56,64 @@ void apply_symmetric(const T* src, T* dst, int len, const Gen& gen, int sf) {
       weigh(src[b], dst[b], w[i], sf);
     }
   }
-  if (len & 1) weigh(src[half], dst[half], 1.0L, sf);
+  if (len & 1) weigh(src[half], dst[half], F(1), sf);
 }
 
 // cos(k*omega) for k = k0 .. k0+m-1 by the recurrence
-// cos((k+1)w) = 2 cos(w) cos(kw) - cos((k-1)w), written in difference form
-// (delta += d * y; y += delta with d = 2 cos(w) - 2 = -4 sin^2(w/2)) so that
-// for small steps the error does not grow with 1/omega. Two cosines start
-// each block.
+// cos((k+4)w) = 2 cos(4w) cos(kw) - cos((k-4)w): four interleaved chains,
+// one per residue of k modulo 4, so consecutive steps do not wait for each
+// other. Each chain runs in difference form (delta += d y; y += delta with
+// d = 2 cos(4w) - 2 = -4 sin^2(2w)), whose error does not grow with 1/omega
+// for small steps. Eight cosines start each block.
+template <class F>
 struct CosineRun {
-  long double omega, d;
-  explicit CosineRun(long double om) : omega(om) {
-    const long double s = std::sin(om / 2);
+  F omega, d;
+  explicit CosineRun(F om) : omega(om) {
+    const F s = std::sin(2 * om);
     d = -4 * s * s;
   }
-  void operator()(int k0, int m, long double* c) const {
-    long double y = std::cos(static_cast<long double>(k0) * omega);
-    long double delta = y - std::cos(static_cast<long double>(k0 - 1) * omega);
-    for (int i = 0; i < m; ++i) {
-      c[i] = y;
-      delta += d * y;
-      y += delta;
+  void operator()(int k0, int m, F* c) const {  // c holds m rounded up to 4
+    F y[4], delta[4];
+    for (int j = 0; j < 4; ++j) {
+      y[j] = std::cos(static_cast<F>(k0 + j) * omega);
+      delta[j] = y[j] - std::cos(static_cast<F>(k0 + j - 4) * omega);
+    }
+    for (int i = 0; i < m; i += 4) {
+      for (int j = 0; j < 4; ++j) {
+        c[i + j] = y[j];
+        delta[j] += d * y[j];
+        y[j] += delta[j];
+      }
     }
   }
 };
 
 // w = a0 - a1 cos(k omega) - a2 cos(2 k omega); the second harmonic comes
 // from the first as 2 cos^2 - 1.
+template <class F>
 struct CosineWeights {
-  long double a0, a1, a2;
-  CosineRun run;
+  using type = F;
+  F a0, a1, a2;
+  CosineRun<F> run;
   CosineWeights(int len, long double b0, long double b1, long double b2)
-      : a0(b0), a1(b1), a2(b2), run(kTwoPiL / (len - 1)) {}
-  void operator()(int k0, int m, long double* w) const {
+      : a0(static_cast<F>(b0)), a1(static_cast<F>(b1)), a2(static_cast<F>(b2)),
+        run(static_cast<F>(kTwoPiL / (len - 1))) {}
+  void operator()(int k0, int m, F* w) const {
     run(k0, m, w);
     for (int i = 0; i < m; ++i) {
-      const long double c = w[i];
+      const F c = w[i];
       w[i] = a0 - a1 * c - a2 * (2 * c * c - 1);
     }
   }
 };
 
+template <class F>
 struct BartlettWeights {
-  long double step;
-  explicit BartlettWeights(int len) : step(2.0L / (len - 1)) {}
-  void operator()(int k0, int m, long double* w) const {
-    for (int i = 0; i < m; ++i) w[i] = static_cast<long double>(k0 + i) * step;
+  using type = F;
+  F step;
+  explicit BartlettWeights(int len) : step(F(2) / static_cast<F>(len - 1)) {}
+  void operator()(int k0, int m, F* w) const {
+    for (int i = 0; i < m; ++i) w[i] = static_cast<F>(k0 + i) * step;
   }
 };
 
@@ -116,6 +135,7 @@ long double bessel_i0(long double x) {
 }
 
 struct KaiserWeights {
+  using type = long double;
   long double alpha, norm;
   int last;  // len - 1
   KaiserWeights(int len, long double a)
@@ -144,7 +164,7 @@ template <class T>
 KelStatus bartlett(const T* src, T* dst, int len) {
   KELS_REQUIRE_PTRS(src, dst);
   if (len < 3) return kelStsBadLength;
-  apply_symmetric(src, dst, len, BartlettWeights(len), 0);
+  apply_symmetric(src, dst, len, BartlettWeights<weight_t<T>>(len), 0);
   return kelStsOk;
 }
 
@@ -153,7 +173,7 @@ KelStatus hann(const T* src, T* dst, int len) {
   KELS_REQUIRE_PTRS(src, dst);
   if (len < 3) return kelStsBadLength;
   if (zero_ended_three(src, dst, len, 0)) return kelStsOk;
-  apply_symmetric(src, dst, len, CosineWeights(len, 0.5L, 0.5L, 0.0L), 0);
+  apply_symmetric(src, dst, len, CosineWeights<weight_t<T>>(len, 0.5L, 0.5L, 0.0L), 0);
   return kelStsOk;
 }
 
@@ -162,7 +182,7 @@ template <class T>
 KelStatus hamming(const T* src, T* dst, int len) {
   KELS_REQUIRE_PTRS(src, dst);
   if (len < 3) return kelStsBadLength;
-  apply_symmetric(src, dst, len, CosineWeights(len, 0.54L, 0.46L, 0.0L), 0);
+  apply_symmetric(src, dst, len, CosineWeights<weight_t<T>>(len, 0.54L, 0.46L, 0.0L), 0);
   return kelStsOk;
 }
 
@@ -171,7 +191,7 @@ KelStatus blackman_sfs(const T* src, T* dst, int len, long double alpha, int sf)
   KELS_REQUIRE_PTRS(src, dst);
   if (len < 3) return kelStsBadLength;
   if (zero_ended_three(src, dst, len, sf)) return kelStsOk;
-  apply_symmetric(src, dst, len, CosineWeights(len, (alpha + 1) / 2, 0.5L, alpha / 2), sf);
+  apply_symmetric(src, dst, len, CosineWeights<weight_t<T>>(len, (alpha + 1) / 2, 0.5L, alpha / 2), sf);
   return kelStsOk;
 }
 
