@@ -288,6 +288,40 @@ KelStatus q15_generate(Kel16s* dst, int len, void* state, std::uint32_t id, Fill
   return kelStsOk;
 }
 
+// Shapes shared by the tone and triangle Q15 functions. `params` is the
+// status of the parameter checks (pure, so it may be computed before the
+// pointer checks that precede it in the order of statuses).
+template <class R, class Fill>
+KelStatus q15_direct(Kel16s* dst, int len, KelStatus params, R r, Fill fill) {
+  KELS_REQUIRE_PTRS(dst);
+  KELS_REQUIRE_LEN(len);
+  KELS_RETURN_IF_ERROR(params);
+  fill(dst, len, r);
+  return kelStsOk;
+}
+
+template <class R>
+KelStatus q15_size(int* psize) {
+  KELS_REQUIRE_PTRS(psize);
+  *psize = static_cast<int>(sizeof(R));
+  return kelStsOk;
+}
+
+template <class R>
+KelStatus q15_init(void* state, KelStatus params, const R& r) {
+  KELS_REQUIRE_PTRS(state);
+  KELS_RETURN_IF_ERROR(params);
+  store_record(state, r);
+  return kelStsOk;
+}
+
+template <class R>
+KelStatus q15_init_alloc(R** pp, KelStatus params, const R& r) {
+  KELS_REQUIRE_PTRS(pp);
+  KELS_RETURN_IF_ERROR(params);
+  return alloc_record(pp, r);
+}
+
 }  // namespace
 }  // namespace kels::generate
 
@@ -314,30 +348,18 @@ KELS_FOR_MEMBERS(KELS_TONE_MEMBERS, KELS_DEFINE_TONE)
 // phase in that order.
 KELS_EXPORT KelStatus kelsToneQ15_Direct_16s(Kel16s* pDst, int len, Kel16s magn, Kel16s rFreqQ15,
                                              Kel32s phaseQ15) {
-  KELS_REQUIRE_PTRS(pDst);
-  KELS_REQUIRE_LEN(len);
-  KELS_RETURN_IF_ERROR(tone_q15_check(magn, rFreqQ15, phaseQ15));
-  ToneRecord r = make_tone(magn, rFreqQ15, phaseQ15);
-  tone_q15_fill(pDst, len, r);
-  return kelStsOk;
+  return q15_direct(pDst, len, tone_q15_check(magn, rFreqQ15, phaseQ15), make_tone(magn, rFreqQ15, phaseQ15),
+                    tone_q15_fill);
 }
-KELS_EXPORT KelStatus kelsToneGetStateSizeQ15_16s(int* pStateSize) {
-  KELS_REQUIRE_PTRS(pStateSize);
-  *pStateSize = static_cast<int>(sizeof(ToneRecord));
-  return kelStsOk;
-}
+KELS_EXPORT KelStatus kelsToneGetStateSizeQ15_16s(int* pStateSize) { return q15_size<ToneRecord>(pStateSize); }
 KELS_EXPORT KelStatus kelsToneInitQ15_16s(KelsToneState_16s* pState, Kel16s magn, Kel16s rFreqQ15,
                                           Kel32s phaseQ15) {
-  KELS_REQUIRE_PTRS(pState);
-  KELS_RETURN_IF_ERROR(tone_q15_check(magn, rFreqQ15, phaseQ15));
-  store_record(pState, make_tone(magn, rFreqQ15, phaseQ15));
-  return kelStsOk;
+  return q15_init(pState, tone_q15_check(magn, rFreqQ15, phaseQ15), make_tone(magn, rFreqQ15, phaseQ15));
 }
 KELS_EXPORT KelStatus kelsToneInitAllocQ15_16s(KelsToneState_16s** ppState, Kel16s magn, Kel16s rFreqQ15,
                                                Kel32s phaseQ15) {
-  KELS_REQUIRE_PTRS(ppState);
-  KELS_RETURN_IF_ERROR(tone_q15_check(magn, rFreqQ15, phaseQ15));
-  return alloc_record(reinterpret_cast<ToneRecord**>(ppState), make_tone(magn, rFreqQ15, phaseQ15));
+  return q15_init_alloc(reinterpret_cast<ToneRecord**>(ppState), tone_q15_check(magn, rFreqQ15, phaseQ15),
+                        make_tone(magn, rFreqQ15, phaseQ15));
 }
 KELS_EXPORT KelStatus kelsToneQ15_16s(Kel16s* pDst, int len, KelsToneState_16s* pState) {
   return q15_generate<ToneRecord>(pDst, len, pState, kToneId, tone_q15_fill);
@@ -349,30 +371,21 @@ KELS_EXPORT KelStatus kelsToneFree(KelsToneState_16s* pState) {
 // ---- Q15 triangle: the same shapes with asym (checked after the frequency).
 KELS_EXPORT KelStatus kelsTriangleQ15_Direct_16s(Kel16s* pDst, int len, Kel16s magn, Kel16s rFreqQ15,
                                                  Kel32s asymQ15, Kel32s phaseQ15) {
-  KELS_REQUIRE_PTRS(pDst);
-  KELS_REQUIRE_LEN(len);
-  KELS_RETURN_IF_ERROR(triangle_q15_check(magn, rFreqQ15, asymQ15, phaseQ15));
-  TriangleRecord r = make_triangle(magn, rFreqQ15, asymQ15, phaseQ15);
-  triangle_q15_fill(pDst, len, r);
-  return kelStsOk;
+  return q15_direct(pDst, len, triangle_q15_check(magn, rFreqQ15, asymQ15, phaseQ15),
+                    make_triangle(magn, rFreqQ15, asymQ15, phaseQ15), triangle_q15_fill);
 }
 KELS_EXPORT KelStatus kelsTriangleGetStateSizeQ15_16s(int* pStateSize) {
-  KELS_REQUIRE_PTRS(pStateSize);
-  *pStateSize = static_cast<int>(sizeof(TriangleRecord));
-  return kelStsOk;
+  return q15_size<TriangleRecord>(pStateSize);
 }
 KELS_EXPORT KelStatus kelsTriangleInitQ15_16s(KelsTriangleState_16s* pState, Kel16s magn, Kel16s rFreqQ15,
                                               Kel32s asymQ15, Kel32s phaseQ15) {
-  KELS_REQUIRE_PTRS(pState);
-  KELS_RETURN_IF_ERROR(triangle_q15_check(magn, rFreqQ15, asymQ15, phaseQ15));
-  store_record(pState, make_triangle(magn, rFreqQ15, asymQ15, phaseQ15));
-  return kelStsOk;
+  return q15_init(pState, triangle_q15_check(magn, rFreqQ15, asymQ15, phaseQ15),
+                  make_triangle(magn, rFreqQ15, asymQ15, phaseQ15));
 }
 KELS_EXPORT KelStatus kelsTriangleInitAllocQ15_16s(KelsTriangleState_16s** ppState, Kel16s magn,
                                                    Kel16s rFreqQ15, Kel32s asymQ15, Kel32s phaseQ15) {
-  KELS_REQUIRE_PTRS(ppState);
-  KELS_RETURN_IF_ERROR(triangle_q15_check(magn, rFreqQ15, asymQ15, phaseQ15));
-  return alloc_record(reinterpret_cast<TriangleRecord**>(ppState),
+  return q15_init_alloc(reinterpret_cast<TriangleRecord**>(ppState),
+                        triangle_q15_check(magn, rFreqQ15, asymQ15, phaseQ15),
                         make_triangle(magn, rFreqQ15, asymQ15, phaseQ15));
 }
 KELS_EXPORT KelStatus kelsTriangleQ15_16s(Kel16s* pDst, int len, KelsTriangleState_16s* pState) {
