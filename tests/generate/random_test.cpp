@@ -259,7 +259,10 @@ TEST(Random, IntegerStateForms) {
   EXPECT_EQ(kelsRandGaussFree_8u(g8), kelStsOk);
 
   int size = 0;
+  ASSERT_EQ(kelsRandGaussGetSize_16s(&size), kelStsOk);
+  EXPECT_EQ(size, 36);  // the same on 32- and 64-bit targets
   ASSERT_EQ(kelsRandUniformGetSize_16s(&size), kelStsOk);
+  EXPECT_EQ(size, 52);
   std::vector<unsigned char> block(static_cast<std::size_t>(size) + 1);
   auto* st = reinterpret_cast<KelsRandUniState_16s*>(block.data() + 1);  // any address
   ASSERT_EQ(kelsRandUniformInit_16s(st, -1000, 1000, 9u), kelStsOk);

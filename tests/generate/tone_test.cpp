@@ -289,6 +289,7 @@ TEST(ToneQ15, StateLifecycle) {
 TEST(TriangleQ15, StateLifecycle) {
   int size = 0;
   ASSERT_EQ(kelsTriangleGetStateSizeQ15_16s(&size), kelStsOk);
+  EXPECT_EQ(size, 48);  // the same on 32- and 64-bit targets
   std::vector<unsigned char> block(static_cast<std::size_t>(size) + 1);
   auto* st = reinterpret_cast<KelsTriangleState_16s*>(block.data() + 1);
   ASSERT_EQ(kelsTriangleInitQ15_16s(st, 500, 16383, 102943, 0), kelStsOk);
