@@ -137,6 +137,12 @@ TEST(Tone, LongVectorsStayAccurate) {
       worst = std::max({worst, std::fabs(d[n].re - std::cos(th)), std::fabs(d[n].im - std::sin(th))});
     }
     EXPECT_LT(worst, 1e-15L) << "f " << f;
+    std::vector<Kel64f> t(len);
+    p = 0.1;
+    ASSERT_EQ(kelsTriangle_Direct_64f(t.data(), len, 1.0, f, 0.5, &p), kelStsOk);
+    worst = 0;
+    for (int n = 0; n < len; n += 7) worst = std::max(worst, std::fabs(t[n] - triangle_ref(0.1L + cycles_angle(f, n), 1, 0.5L)));
+    EXPECT_LT(worst, 1e-14L) << "triangle, f " << f;
   }
 }
 
