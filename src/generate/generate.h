@@ -25,18 +25,21 @@ template <class T> using part_t = typename parts<T>::type;
 template <class T> constexpr bool is_complex_v = parts<T>::count == 2;
 
 // Round half away from zero and saturate to the integer type I; NaN gives 0.
-// The comparisons are made before the conversion, so no out-of-range
-// floating-to-integer conversion ever happens.
+// Out-of-range values are caught before any conversion. In range, adding
+// +-0.5 is exact (the value has at most 53 significant bits above 2^-21,
+// floats being widened to double first) and the conversion truncates, which
+// together round half away from zero.
 template <class I, class F>
 I round_saturate(F v) {
   static_assert(std::is_integral_v<I>);
-  constexpr F lo = static_cast<F>(std::numeric_limits<I>::min());
-  constexpr F hi = static_cast<F>(std::numeric_limits<I>::max());
-  if (!(v == v)) return 0;
-  const F r = v < 0 ? std::ceil(v - F(0.5)) : std::floor(v + F(0.5));
-  if (r <= lo) return std::numeric_limits<I>::min();
-  if (r >= hi) return std::numeric_limits<I>::max();
-  return static_cast<I>(r);
+  using W = std::conditional_t<(sizeof(F) < sizeof(double)), double, F>;
+  constexpr W lo = static_cast<W>(std::numeric_limits<I>::min());
+  constexpr W hi = static_cast<W>(std::numeric_limits<I>::max());
+  const W x = static_cast<W>(v);
+  if (!(x == x)) return 0;
+  if (x <= lo) return std::numeric_limits<I>::min();
+  if (x >= hi) return std::numeric_limits<I>::max();
+  return static_cast<I>(static_cast<std::int64_t>(x < 0 ? x - W(0.5) : x + W(0.5)));
 }
 
 // A value computed in extended or double precision, delivered in the part
