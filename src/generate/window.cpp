@@ -122,7 +122,7 @@ struct BartlettWeights {
 long double bessel_i0(long double x) {
   const long double ax = std::fabs(x);
   if (ax < 3.75L) {
-    long double t = ax * 0.26666666666666666L;
+    long double t = ax * static_cast<long double>(0.26666666666666666);  // 1/3.75 as a double
     t *= t;
     return 1.0L + t * (3.5156229L + t * (3.0899424L + t * (1.2067492L + t * (0.2659732L +
            t * (0.0360768L + t * 0.0045813L)))));
