@@ -174,8 +174,200 @@ KELAPI KelStatus kelsSplitScaled_24s32f_D2L(const Kel8u* pSrc, int nChannels, in
 /* @decls-iir */
 
 /* @decls-generate */
+/* ---- Windows. Weights are symmetric with ends at n = 0 and n = len-1. Lengths
+ * below 3 are refused (BlackmanOpt: below 4, tested before the pointers;
+ * Kaiser: below 1). 16s results are rounded to nearest, ties away from zero,
+ * and saturated. Q15 forms take alpha * 2^15 as an int. */
+KELAPI KelStatus kelsWinBartlett_16s(const Kel16s* pSrc, Kel16s* pDst, int len);
+KELAPI KelStatus kelsWinBartlett_16s_I(Kel16s* pSrcDst, int len);
+KELAPI KelStatus kelsWinBartlett_16sc(const Kel16sc* pSrc, Kel16sc* pDst, int len);
+KELAPI KelStatus kelsWinBartlett_16sc_I(Kel16sc* pSrcDst, int len);
+KELAPI KelStatus kelsWinBartlett_32f(const Kel32f* pSrc, Kel32f* pDst, int len);
+KELAPI KelStatus kelsWinBartlett_32f_I(Kel32f* pSrcDst, int len);
+KELAPI KelStatus kelsWinBartlett_32fc(const Kel32fc* pSrc, Kel32fc* pDst, int len);
+KELAPI KelStatus kelsWinBartlett_32fc_I(Kel32fc* pSrcDst, int len);
+KELAPI KelStatus kelsWinBartlett_64f(const Kel64f* pSrc, Kel64f* pDst, int len);
+KELAPI KelStatus kelsWinBartlett_64f_I(Kel64f* pSrcDst, int len);
+KELAPI KelStatus kelsWinBartlett_64fc(const Kel64fc* pSrc, Kel64fc* pDst, int len);
+KELAPI KelStatus kelsWinBartlett_64fc_I(Kel64fc* pSrcDst, int len);
+KELAPI KelStatus kelsWinHann_16s(const Kel16s* pSrc, Kel16s* pDst, int len);
+KELAPI KelStatus kelsWinHann_16s_I(Kel16s* pSrcDst, int len);
+KELAPI KelStatus kelsWinHann_16sc(const Kel16sc* pSrc, Kel16sc* pDst, int len);
+KELAPI KelStatus kelsWinHann_16sc_I(Kel16sc* pSrcDst, int len);
+KELAPI KelStatus kelsWinHann_32f(const Kel32f* pSrc, Kel32f* pDst, int len);
+KELAPI KelStatus kelsWinHann_32f_I(Kel32f* pSrcDst, int len);
+KELAPI KelStatus kelsWinHann_32fc(const Kel32fc* pSrc, Kel32fc* pDst, int len);
+KELAPI KelStatus kelsWinHann_32fc_I(Kel32fc* pSrcDst, int len);
+KELAPI KelStatus kelsWinHann_64f(const Kel64f* pSrc, Kel64f* pDst, int len);
+KELAPI KelStatus kelsWinHann_64f_I(Kel64f* pSrcDst, int len);
+KELAPI KelStatus kelsWinHann_64fc(const Kel64fc* pSrc, Kel64fc* pDst, int len);
+KELAPI KelStatus kelsWinHann_64fc_I(Kel64fc* pSrcDst, int len);
+KELAPI KelStatus kelsWinHamming_16s(const Kel16s* pSrc, Kel16s* pDst, int len);
+KELAPI KelStatus kelsWinHamming_16s_I(Kel16s* pSrcDst, int len);
+KELAPI KelStatus kelsWinHamming_16sc(const Kel16sc* pSrc, Kel16sc* pDst, int len);
+KELAPI KelStatus kelsWinHamming_16sc_I(Kel16sc* pSrcDst, int len);
+KELAPI KelStatus kelsWinHamming_32f(const Kel32f* pSrc, Kel32f* pDst, int len);
+KELAPI KelStatus kelsWinHamming_32f_I(Kel32f* pSrcDst, int len);
+KELAPI KelStatus kelsWinHamming_32fc(const Kel32fc* pSrc, Kel32fc* pDst, int len);
+KELAPI KelStatus kelsWinHamming_32fc_I(Kel32fc* pSrcDst, int len);
+KELAPI KelStatus kelsWinHamming_64f(const Kel64f* pSrc, Kel64f* pDst, int len);
+KELAPI KelStatus kelsWinHamming_64f_I(Kel64f* pSrcDst, int len);
+KELAPI KelStatus kelsWinHamming_64fc(const Kel64fc* pSrc, Kel64fc* pDst, int len);
+KELAPI KelStatus kelsWinHamming_64fc_I(Kel64fc* pSrcDst, int len);
+KELAPI KelStatus kelsWinBlackmanStd_16s(const Kel16s* pSrc, Kel16s* pDst, int len);
+KELAPI KelStatus kelsWinBlackmanStd_16s_I(Kel16s* pSrcDst, int len);
+KELAPI KelStatus kelsWinBlackmanStd_16sc(const Kel16sc* pSrc, Kel16sc* pDst, int len);
+KELAPI KelStatus kelsWinBlackmanStd_16sc_I(Kel16sc* pSrcDst, int len);
+KELAPI KelStatus kelsWinBlackmanStd_32f(const Kel32f* pSrc, Kel32f* pDst, int len);
+KELAPI KelStatus kelsWinBlackmanStd_32f_I(Kel32f* pSrcDst, int len);
+KELAPI KelStatus kelsWinBlackmanStd_32fc(const Kel32fc* pSrc, Kel32fc* pDst, int len);
+KELAPI KelStatus kelsWinBlackmanStd_32fc_I(Kel32fc* pSrcDst, int len);
+KELAPI KelStatus kelsWinBlackmanStd_64f(const Kel64f* pSrc, Kel64f* pDst, int len);
+KELAPI KelStatus kelsWinBlackmanStd_64f_I(Kel64f* pSrcDst, int len);
+KELAPI KelStatus kelsWinBlackmanStd_64fc(const Kel64fc* pSrc, Kel64fc* pDst, int len);
+KELAPI KelStatus kelsWinBlackmanStd_64fc_I(Kel64fc* pSrcDst, int len);
+KELAPI KelStatus kelsWinBlackmanOpt_16s(const Kel16s* pSrc, Kel16s* pDst, int len);
+KELAPI KelStatus kelsWinBlackmanOpt_16s_I(Kel16s* pSrcDst, int len);
+KELAPI KelStatus kelsWinBlackmanOpt_16sc(const Kel16sc* pSrc, Kel16sc* pDst, int len);
+KELAPI KelStatus kelsWinBlackmanOpt_16sc_I(Kel16sc* pSrcDst, int len);
+KELAPI KelStatus kelsWinBlackmanOpt_32f(const Kel32f* pSrc, Kel32f* pDst, int len);
+KELAPI KelStatus kelsWinBlackmanOpt_32f_I(Kel32f* pSrcDst, int len);
+KELAPI KelStatus kelsWinBlackmanOpt_32fc(const Kel32fc* pSrc, Kel32fc* pDst, int len);
+KELAPI KelStatus kelsWinBlackmanOpt_32fc_I(Kel32fc* pSrcDst, int len);
+KELAPI KelStatus kelsWinBlackmanOpt_64f(const Kel64f* pSrc, Kel64f* pDst, int len);
+KELAPI KelStatus kelsWinBlackmanOpt_64f_I(Kel64f* pSrcDst, int len);
+KELAPI KelStatus kelsWinBlackmanOpt_64fc(const Kel64fc* pSrc, Kel64fc* pDst, int len);
+KELAPI KelStatus kelsWinBlackmanOpt_64fc_I(Kel64fc* pSrcDst, int len);
+KELAPI KelStatus kelsWinBlackman_16s(const Kel16s* pSrc, Kel16s* pDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinBlackman_16s_I(Kel16s* pSrcDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinBlackman_16sc(const Kel16sc* pSrc, Kel16sc* pDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinBlackman_16sc_I(Kel16sc* pSrcDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinBlackman_32f(const Kel32f* pSrc, Kel32f* pDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinBlackman_32f_I(Kel32f* pSrcDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinBlackman_32fc(const Kel32fc* pSrc, Kel32fc* pDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinBlackman_32fc_I(Kel32fc* pSrcDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinBlackman_64f(const Kel64f* pSrc, Kel64f* pDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinBlackman_64f_I(Kel64f* pSrcDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinBlackman_64fc(const Kel64fc* pSrc, Kel64fc* pDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinBlackman_64fc_I(Kel64fc* pSrcDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinBlackmanQ15_16s(const Kel16s* pSrc, Kel16s* pDst, int len, int alphaQ15);
+KELAPI KelStatus kelsWinBlackmanQ15_16s_I(Kel16s* pSrcDst, int len, int alphaQ15);
+KELAPI KelStatus kelsWinBlackmanQ15_16sc(const Kel16sc* pSrc, Kel16sc* pDst, int len, int alphaQ15);
+KELAPI KelStatus kelsWinBlackmanQ15_16sc_I(Kel16sc* pSrcDst, int len, int alphaQ15);
+KELAPI KelStatus kelsWinKaiser_16s(const Kel16s* pSrc, Kel16s* pDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinKaiser_16s_I(Kel16s* pSrcDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinKaiser_16sc(const Kel16sc* pSrc, Kel16sc* pDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinKaiser_16sc_I(Kel16sc* pSrcDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinKaiser_32f(const Kel32f* pSrc, Kel32f* pDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinKaiser_32f_I(Kel32f* pSrcDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinKaiser_32fc(const Kel32fc* pSrc, Kel32fc* pDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinKaiser_32fc_I(Kel32fc* pSrcDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinKaiser_64f(const Kel64f* pSrc, Kel64f* pDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinKaiser_64f_I(Kel64f* pSrcDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinKaiser_64fc(const Kel64fc* pSrc, Kel64fc* pDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinKaiser_64fc_I(Kel64fc* pSrcDst, int len, Kel32f alpha);
+KELAPI KelStatus kelsWinKaiserQ15_16s(const Kel16s* pSrc, Kel16s* pDst, int len, int alphaQ15);
+KELAPI KelStatus kelsWinKaiserQ15_16s_I(Kel16s* pSrcDst, int len, int alphaQ15);
+KELAPI KelStatus kelsWinKaiserQ15_16sc(const Kel16sc* pSrc, Kel16sc* pDst, int len, int alphaQ15);
+KELAPI KelStatus kelsWinKaiserQ15_16sc_I(Kel16sc* pSrcDst, int len, int alphaQ15);
+/* In place, result scaled by 2^-scaleFactor before rounding and saturation. */
+KELAPI KelStatus kelsWinBlackmanQ15_16s_ISfs(Kel16s* pSrcDst, int len, int alphaQ15, int scaleFactor);
+
+/* ---- Tone and triangle. *pPhase (radians, [0, 2pi)) is the phase of the first
+ * sample; it is replaced by the phase of the sample after the last one. The
+ * parameters are checked before the destination. Complex forms: the imaginary
+ * part is the same wave a quarter period later (a sine for the tone). */
+KELAPI KelStatus kelsTone_Direct_16s(Kel16s* pDst, int len, Kel32f magn, Kel32f rFreq, Kel32f* pPhase);
+KELAPI KelStatus kelsTone_Direct_16sc(Kel16sc* pDst, int len, Kel32f magn, Kel32f rFreq, Kel32f* pPhase);
+KELAPI KelStatus kelsTone_Direct_32f(Kel32f* pDst, int len, Kel32f magn, Kel32f rFreq, Kel32f* pPhase);
+KELAPI KelStatus kelsTone_Direct_32fc(Kel32fc* pDst, int len, Kel32f magn, Kel32f rFreq, Kel32f* pPhase);
+KELAPI KelStatus kelsTone_Direct_64f(Kel64f* pDst, int len, Kel64f magn, Kel64f rFreq, Kel64f* pPhase);
+KELAPI KelStatus kelsTone_Direct_64fc(Kel64fc* pDst, int len, Kel64f magn, Kel64f rFreq, Kel64f* pPhase);
+KELAPI KelStatus kelsTriangle_Direct_16s(Kel16s* pDst, int len, Kel32f magn, Kel32f rFreq, Kel32f asym, Kel32f* pPhase);
+KELAPI KelStatus kelsTriangle_Direct_16sc(Kel16sc* pDst, int len, Kel32f magn, Kel32f rFreq, Kel32f asym, Kel32f* pPhase);
+KELAPI KelStatus kelsTriangle_Direct_32f(Kel32f* pDst, int len, Kel32f magn, Kel32f rFreq, Kel32f asym, Kel32f* pPhase);
+KELAPI KelStatus kelsTriangle_Direct_32fc(Kel32fc* pDst, int len, Kel32f magn, Kel32f rFreq, Kel32f asym, Kel32f* pPhase);
+KELAPI KelStatus kelsTriangle_Direct_64f(Kel64f* pDst, int len, Kel64f magn, Kel64f rFreq, Kel64f asym, Kel64f* pPhase);
+KELAPI KelStatus kelsTriangle_Direct_64fc(Kel64fc* pDst, int len, Kel64f magn, Kel64f rFreq, Kel64f asym, Kel64f* pPhase);
+/* Q15 forms: rFreqQ15 in [0, 16384), phaseQ15 in [0, 205887), asymQ15 in
+ * [-102943, 102943], magn >= 1; samples rounded half away from zero. */
+KELAPI KelStatus kelsToneQ15_Direct_16s(Kel16s* pDst, int len, Kel16s magn, Kel16s rFreqQ15, Kel32s phaseQ15);
+KELAPI KelStatus kelsToneGetStateSizeQ15_16s(int* pStateSize);
+KELAPI KelStatus kelsToneInitQ15_16s(KelsToneState_16s* pState, Kel16s magn, Kel16s rFreqQ15, Kel32s phaseQ15);
+KELAPI KelStatus kelsToneInitAllocQ15_16s(KelsToneState_16s** ppState, Kel16s magn, Kel16s rFreqQ15, Kel32s phaseQ15);
+KELAPI KelStatus kelsToneQ15_16s(Kel16s* pDst, int len, KelsToneState_16s* pState);
+KELAPI KelStatus kelsToneFree(KelsToneState_16s* pState);
+KELAPI KelStatus kelsTriangleQ15_Direct_16s(Kel16s* pDst, int len, Kel16s magn, Kel16s rFreqQ15, Kel32s asymQ15, Kel32s phaseQ15);
+KELAPI KelStatus kelsTriangleGetStateSizeQ15_16s(int* pStateSize);
+KELAPI KelStatus kelsTriangleInitQ15_16s(KelsTriangleState_16s* pState, Kel16s magn, Kel16s rFreqQ15, Kel32s asymQ15, Kel32s phaseQ15);
+KELAPI KelStatus kelsTriangleInitAllocQ15_16s(KelsTriangleState_16s** ppState, Kel16s magn, Kel16s rFreqQ15, Kel32s asymQ15, Kel32s phaseQ15);
+KELAPI KelStatus kelsTriangleQ15_16s(Kel16s* pDst, int len, KelsTriangleState_16s* pState);
+KELAPI KelStatus kelsTriangleFree(KelsTriangleState_16s* pState);
+
+/* ---- Random numbers. _Direct forms restart the generator from *pSeed and
+ * write the last subtract-with-borrow word back to it; state forms continue
+ * one stream across calls. Integer outputs are rounded to nearest, ties away
+ * from zero, and saturated. */
+KELAPI KelStatus kelsRandUniform_Direct_16s(Kel16s* pDst, int len, Kel16s low, Kel16s high, unsigned int* pSeed);
+KELAPI KelStatus kelsRandUniform_Direct_32f(Kel32f* pDst, int len, Kel32f low, Kel32f high, unsigned int* pSeed);
+KELAPI KelStatus kelsRandUniform_Direct_64f(Kel64f* pDst, int len, Kel64f low, Kel64f high, unsigned int* pSeed);
+KELAPI KelStatus kelsRandGauss_Direct_16s(Kel16s* pDst, int len, Kel16s mean, Kel16s stdDev, unsigned int* pSeed);
+KELAPI KelStatus kelsRandGauss_Direct_32f(Kel32f* pDst, int len, Kel32f mean, Kel32f stdDev, unsigned int* pSeed);
+KELAPI KelStatus kelsRandGauss_Direct_64f(Kel64f* pDst, int len, Kel64f mean, Kel64f stdDev, unsigned int* pSeed);
+KELAPI KelStatus kelsRandUniformInitAlloc_8u(KelsRandUniState_8u** ppState, Kel8u low, Kel8u high, unsigned int seed);
+KELAPI KelStatus kelsRandUniformInitAlloc_16s(KelsRandUniState_16s** ppState, Kel16s low, Kel16s high, unsigned int seed);
+KELAPI KelStatus kelsRandUniformInitAlloc_32f(KelsRandUniState_32f** ppState, Kel32f low, Kel32f high, unsigned int seed);
+KELAPI KelStatus kelsRandUniformGetSize_16s(int* pStateSize);
+KELAPI KelStatus kelsRandUniformInit_16s(KelsRandUniState_16s* pState, Kel16s low, Kel16s high, unsigned int seed);
+KELAPI KelStatus kelsRandUniform_8u(Kel8u* pDst, int len, KelsRandUniState_8u* pState);
+KELAPI KelStatus kelsRandUniform_16s(Kel16s* pDst, int len, KelsRandUniState_16s* pState);
+KELAPI KelStatus kelsRandUniform_32f(Kel32f* pDst, int len, KelsRandUniState_32f* pState);
+KELAPI KelStatus kelsRandUniformFree_8u(KelsRandUniState_8u* pState);
+KELAPI KelStatus kelsRandUniformFree_16s(KelsRandUniState_16s* pState);
+KELAPI KelStatus kelsRandUniformFree_32f(KelsRandUniState_32f* pState);
+KELAPI KelStatus kelsRandGaussInitAlloc_8u(KelsRandGaussState_8u** ppState, Kel8u mean, Kel8u stdDev, unsigned int seed);
+KELAPI KelStatus kelsRandGaussInitAlloc_16s(KelsRandGaussState_16s** ppState, Kel16s mean, Kel16s stdDev, unsigned int seed);
+KELAPI KelStatus kelsRandGaussInitAlloc_32f(KelsRandGaussState_32f** ppState, Kel32f mean, Kel32f stdDev, unsigned int seed);
+KELAPI KelStatus kelsRandGaussGetSize_16s(int* pStateSize);
+KELAPI KelStatus kelsRandGaussInit_16s(KelsRandGaussState_16s* pState, Kel16s mean, Kel16s stdDev, unsigned int seed);
+KELAPI KelStatus kelsRandGauss_8u(Kel8u* pDst, int len, KelsRandGaussState_8u* pState);
+KELAPI KelStatus kelsRandGauss_16s(Kel16s* pDst, int len, KelsRandGaussState_16s* pState);
+KELAPI KelStatus kelsRandGauss_32f(Kel32f* pDst, int len, KelsRandGaussState_32f* pState);
+KELAPI KelStatus kelsRandGaussFree_8u(KelsRandGaussState_8u* pState);
+KELAPI KelStatus kelsRandGaussFree_16s(KelsRandGaussState_16s* pState);
+KELAPI KelStatus kelsRandGaussFree_32f(KelsRandGaussState_32f* pState);
+
+/* ---- Ramp: offset + slope * n. Jaehne: magn * sin(pi/2 * n^2 / len); the
+ * unsigned forms map the signal's range onto 0..magn. */
+KELAPI KelStatus kelsVectorRamp_8u(Kel8u* pDst, int len, Kel32f offset, Kel32f slope);
+KELAPI KelStatus kelsVectorRamp_8s(Kel8s* pDst, int len, Kel32f offset, Kel32f slope);
+KELAPI KelStatus kelsVectorRamp_16u(Kel16u* pDst, int len, Kel32f offset, Kel32f slope);
+KELAPI KelStatus kelsVectorRamp_16s(Kel16s* pDst, int len, Kel32f offset, Kel32f slope);
+KELAPI KelStatus kelsVectorRamp_32u(Kel32u* pDst, int len, Kel32f offset, Kel32f slope);
+KELAPI KelStatus kelsVectorRamp_32s(Kel32s* pDst, int len, Kel32f offset, Kel32f slope);
+KELAPI KelStatus kelsVectorRamp_32f(Kel32f* pDst, int len, Kel32f offset, Kel32f slope);
+KELAPI KelStatus kelsVectorRamp_64f(Kel64f* pDst, int len, Kel32f offset, Kel32f slope);
+KELAPI KelStatus kelsVectorJaehne_8u(Kel8u* pDst, int len, Kel8u magn);
+KELAPI KelStatus kelsVectorJaehne_8s(Kel8s* pDst, int len, Kel8s magn);
+KELAPI KelStatus kelsVectorJaehne_16u(Kel16u* pDst, int len, Kel16u magn);
+KELAPI KelStatus kelsVectorJaehne_16s(Kel16s* pDst, int len, Kel16s magn);
+KELAPI KelStatus kelsVectorJaehne_32u(Kel32u* pDst, int len, Kel32u magn);
+KELAPI KelStatus kelsVectorJaehne_32s(Kel32s* pDst, int len, Kel32s magn);
+KELAPI KelStatus kelsVectorJaehne_32f(Kel32f* pDst, int len, Kel32f magn);
+KELAPI KelStatus kelsVectorJaehne_64f(Kel64f* pDst, int len, Kel64f magn);
 
 /* @decls-speech */
+/* ---- G.711 companding (codes are bytes; 32f samples are scaled by 2^-15). */
+KELAPI KelStatus kelsALawToLin_8u16s(const Kel8u* pSrc, Kel16s* pDst, int len);
+KELAPI KelStatus kelsALawToLin_8u32f(const Kel8u* pSrc, Kel32f* pDst, int len);
+KELAPI KelStatus kelsMuLawToLin_8u16s(const Kel8u* pSrc, Kel16s* pDst, int len);
+KELAPI KelStatus kelsMuLawToLin_8u32f(const Kel8u* pSrc, Kel32f* pDst, int len);
+KELAPI KelStatus kelsLinToALaw_16s8u(const Kel16s* pSrc, Kel8u* pDst, int len);
+KELAPI KelStatus kelsLinToALaw_32f8u(const Kel32f* pSrc, Kel8u* pDst, int len);
+KELAPI KelStatus kelsLinToMuLaw_16s8u(const Kel16s* pSrc, Kel8u* pDst, int len);
+KELAPI KelStatus kelsLinToMuLaw_32f8u(const Kel32f* pSrc, Kel8u* pDst, int len);
+KELAPI KelStatus kelsALawToMuLaw_8u(const Kel8u* pSrc, Kel8u* pDst, int len);
+KELAPI KelStatus kelsMuLawToALaw_8u(const Kel8u* pSrc, Kel8u* pDst, int len);
 
 #ifdef __cplusplus
 }

@@ -113,6 +113,15 @@ typedef enum { kelRndZero = 0, kelRndNear = 1, kelRndFinancial = 2 } KelRoundMod
 /* @records-iir */
 
 /* @records-generate */
+/* Tone and triangle generator states (Q15 forms) and random generator states. */
+typedef struct KelsToneState_16s KelsToneState_16s;
+typedef struct KelsTriangleState_16s KelsTriangleState_16s;
+typedef struct KelsRandUniState_8u KelsRandUniState_8u;
+typedef struct KelsRandUniState_16s KelsRandUniState_16s;
+typedef struct KelsRandUniState_32f KelsRandUniState_32f;
+typedef struct KelsRandGaussState_8u KelsRandGaussState_8u;
+typedef struct KelsRandGaussState_16s KelsRandGaussState_16s;
+typedef struct KelsRandGaussState_32f KelsRandGaussState_32f;
 
 #ifdef __cplusplus
 }
