@@ -1,0 +1,359 @@
+// Conversion kernels, compiled once per SIMD target by Highway and reached
+// through dynamic dispatch. Each loop processes whole vectors and hands the
+// remainder to its scalar twin, so both always agree on the tail.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "kernels/convert.cpp"
+#include "hwy/foreach_target.h"  // IWYU pragma: keep
+#include "hwy/highway.h"
+
+#include "kernels/convert.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace kels::kernels {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+// Loads |lanes of di| elements of S and widens them to int32.
+template <class S, class DI>
+HWY_INLINE hn::Vec<DI> LoadAsI32(DI di, const S* p) {
+  if constexpr (std::is_same_v<S, int32_t>) {
+    return hn::LoadU(di, p);
+  } else if constexpr (std::is_signed_v<S>) {
+    return hn::PromoteTo(di, hn::LoadU(hn::Rebind<S, DI>(), p));
+  } else {
+    const hn::Rebind<uint32_t, DI> du;
+    return hn::BitCast(di, hn::PromoteTo(du, hn::LoadU(hn::Rebind<S, DI>(), p)));
+  }
+}
+
+template <class S, class D>
+void WidenT(const S* HWY_RESTRICT src, D* HWY_RESTRICT dst, size_t n) {
+  const hn::ScalableTag<D> d;
+  const hn::Rebind<S, decltype(d)> ds;
+  const size_t N = hn::Lanes(d);
+  size_t i = 0;
+  for (; i + N <= n; i += N) hn::StoreU(hn::PromoteTo(d, hn::LoadU(ds, src + i)), d, dst + i);
+  scalar::widen(src + i, dst + i, n - i);
+}
+
+void WidenS8S16(const int8_t* s, int16_t* d, size_t n) { WidenT(s, d, n); }
+void WidenS16S32(const int16_t* s, int32_t* d, size_t n) { WidenT(s, d, n); }
+void WidenF32F64(const float* s, double* d, size_t n) { WidenT(s, d, n); }
+
+// Integer -> single precision, optionally times a power of two. Two vectors
+// per step keep the converter busy at short lengths.
+template <bool kScale, class S>
+void ToFloatLoop(const S* HWY_RESTRICT src, float* HWY_RESTRICT dst, size_t n, float factor) {
+  const hn::ScalableTag<float> df;
+  const hn::Rebind<int32_t, decltype(df)> di;
+  const size_t N = hn::Lanes(df);
+  const auto f = hn::Set(df, factor);
+  size_t i = 0;
+  for (; i + 2 * N <= n; i += 2 * N) {
+    auto a = hn::ConvertTo(df, LoadAsI32(di, src + i));
+    auto b = hn::ConvertTo(df, LoadAsI32(di, src + i + N));
+    if (kScale) {
+      a = hn::Mul(a, f);
+      b = hn::Mul(b, f);
+    }
+    hn::StoreU(a, df, dst + i);
+    hn::StoreU(b, df, dst + i + N);
+  }
+  for (; i + N <= n; i += N) {
+    auto a = hn::ConvertTo(df, LoadAsI32(di, src + i));
+    if (kScale) a = hn::Mul(a, f);
+    hn::StoreU(a, df, dst + i);
+  }
+  scalar::to_floating(src + i, dst + i, n - i, factor);
+}
+
+template <class S>
+void ToFloatT(const S* src, float* dst, size_t n, float factor) {
+  if (factor == 1.0f) {
+    ToFloatLoop<false>(src, dst, n, factor);
+  } else {
+    ToFloatLoop<true>(src, dst, n, factor);
+  }
+}
+
+void ToFloatS8(const int8_t* s, float* d, size_t n, float f) { ToFloatT(s, d, n, f); }
+void ToFloatU8(const uint8_t* s, float* d, size_t n, float f) { ToFloatT(s, d, n, f); }
+void ToFloatS16(const int16_t* s, float* d, size_t n, float f) { ToFloatT(s, d, n, f); }
+void ToFloatU16(const uint16_t* s, float* d, size_t n, float f) { ToFloatT(s, d, n, f); }
+void ToFloatS32(const int32_t* s, float* d, size_t n, float f) { ToFloatT(s, d, n, f); }
+
+template <class S>
+void ToDoubleT(const S* HWY_RESTRICT src, double* HWY_RESTRICT dst, size_t n, double factor) {
+  const hn::ScalableTag<double> dd;
+  const hn::Rebind<int32_t, decltype(dd)> di;
+  const size_t N = hn::Lanes(dd);
+  const auto f = hn::Set(dd, factor);
+  size_t i = 0;
+  for (; i + N <= n; i += N) {
+    hn::StoreU(hn::Mul(hn::PromoteTo(dd, LoadAsI32(di, src + i)), f), dd, dst + i);
+  }
+  scalar::to_floating(src + i, dst + i, n - i, factor);
+}
+
+void ToDoubleS16(const int16_t* s, double* d, size_t n, double f) { ToDoubleT(s, d, n, f); }
+void ToDoubleS32(const int32_t* s, double* d, size_t n, double f) { ToDoubleT(s, d, n, f); }
+
+void F64ToF32Sat(const double* HWY_RESTRICT src, float* HWY_RESTRICT dst, size_t n) {
+  const hn::ScalableTag<double> dd;
+  const hn::Rebind<float, decltype(dd)> df;
+  const size_t N = hn::Lanes(dd);
+  const auto kmax = hn::Set(dd, 3.4028234663852886e38);
+  const auto kmin = hn::Neg(kmax);
+  size_t i = 0;
+  for (; i + N <= n; i += N) {
+    const auto x = hn::LoadU(dd, src + i);
+    auto y = hn::IfThenElse(hn::Ge(x, kmax), kmax, x);
+    y = hn::IfThenElse(hn::Ge(x, kmin), y, kmin);  // NaN fails the test too
+    hn::StoreU(hn::DemoteTo(df, y), df, dst + i);
+  }
+  scalar::f64_to_f32_sat(src + i, dst + i, n - i);
+}
+
+// Single precision -> integer. The scaled value is clamped to the
+// destination's range in float (NaN taken as the minimum) so that the
+// conversion never overflows; 32-bit destinations, whose maximum a float
+// cannot hold, take 2^31 and above from a separate test.
+template <class D, bool kNearest>
+void F32ToIntLoop(const float* HWY_RESTRICT src, D* HWY_RESTRICT dst, size_t n, float factor) {
+  const hn::ScalableTag<float> df;
+  const hn::Rebind<int32_t, decltype(df)> di;
+  const hn::Rebind<D, decltype(df)> dd;
+  constexpr bool kWide = sizeof(D) == 4;
+  const size_t N = hn::Lanes(df);
+  const auto f = hn::Set(df, factor);
+  const auto lo = hn::Set(df, static_cast<float>(std::numeric_limits<D>::min()));
+  const auto hi = hn::Set(df, kWide ? 2147483520.0f : static_cast<float>(std::numeric_limits<D>::max()));
+  const auto two31 = hn::Set(df, 2147483648.0f);
+  const auto imax = hn::Set(di, std::numeric_limits<int32_t>::max());
+  size_t i = 0;
+  for (; i + N <= n; i += N) {
+    const auto y = hn::Mul(hn::LoadU(df, src + i), f);
+    const auto c = hn::Min(hn::Max(hn::IfThenElse(hn::Eq(y, y), y, lo), lo), hi);
+    auto r = kNearest ? hn::NearestInt(c) : hn::ConvertTo(di, c);
+    if constexpr (kWide) {
+      r = hn::IfThenElse(hn::RebindMask(di, hn::Ge(y, two31)), imax, r);
+      hn::StoreU(r, di, reinterpret_cast<int32_t*>(dst) + i);
+    } else {
+      hn::StoreU(hn::DemoteTo(dd, r), dd, dst + i);
+    }
+  }
+  // The tail uses the twin with the same exact scaling.
+  const int sf = 127 - static_cast<int>(scalar::float_bits(factor) >> 23);
+  scalar::f_to_int(src + i, dst + i, n - i, sf, kNearest);
+}
+
+template <class D>
+void F32ToIntT(const float* src, D* dst, size_t n, float factor, bool nearest) {
+  if (nearest) {
+    F32ToIntLoop<D, true>(src, dst, n, factor);
+  } else {
+    F32ToIntLoop<D, false>(src, dst, n, factor);
+  }
+}
+
+void F32ToS8(const float* s, int8_t* d, size_t n, float f, bool r) { F32ToIntT(s, d, n, f, r); }
+void F32ToU8(const float* s, uint8_t* d, size_t n, float f, bool r) { F32ToIntT(s, d, n, f, r); }
+void F32ToS16(const float* s, int16_t* d, size_t n, float f, bool r) { F32ToIntT(s, d, n, f, r); }
+void F32ToU16(const float* s, uint16_t* d, size_t n, float f, bool r) { F32ToIntT(s, d, n, f, r); }
+void F32ToS32(const float* s, int32_t* d, size_t n, float f, bool r) { F32ToIntT(s, d, n, f, r); }
+
+// 32s -> 16s with the scale rule. Right shifts round to nearest even from
+// the floor quotient and the remainder (no 64-bit intermediate needed);
+// left shifts clamp the source to the range that survives the shift.
+void S32ToS16Scaled(const int32_t* HWY_RESTRICT src, int16_t* HWY_RESTRICT dst, size_t n, int sf) {
+  const hn::ScalableTag<int32_t> di;
+  const hn::Rebind<int16_t, decltype(di)> d16;
+  const size_t N = hn::Lanes(di);
+  size_t i = 0;
+  if (sf > 0) {
+    const auto mask = hn::Set(di, static_cast<int32_t>((uint32_t{1} << sf) - 1u));
+    const auto half = hn::Set(di, static_cast<int32_t>(uint32_t{1} << (sf - 1)));
+    const auto one = hn::Set(di, 1);
+    for (; i + N <= n; i += N) {
+      const auto x = hn::LoadU(di, src + i);
+      const auto q = hn::ShiftRightSame(x, sf);
+      const auto rem = hn::And(x, mask);
+      const auto up = hn::Or(hn::Gt(rem, half), hn::And(hn::Eq(rem, half), hn::Eq(hn::And(q, one), one)));
+      hn::StoreU(hn::DemoteTo(d16, hn::Sub(q, hn::VecFromMask(di, up))), d16, dst + i);
+    }
+  } else if (sf == 0) {
+    for (; i + N <= n; i += N) hn::StoreU(hn::DemoteTo(d16, hn::LoadU(di, src + i)), d16, dst + i);
+  } else {
+    const int k = -sf;
+    const auto lo = hn::Set(di, -(32768 >> k));
+    const auto hi = hn::Set(di, 32767 >> k);
+    for (; i + N <= n; i += N) {
+      const auto x = hn::Min(hn::Max(hn::LoadU(di, src + i), lo), hi);
+      hn::StoreU(hn::DemoteTo(d16, hn::ShiftLeftSame(x, k)), d16, dst + i);
+    }
+  }
+  scalar::s32_to_s16_scaled(src + i, dst + i, n - i, sf);
+}
+
+// Half precision. The bit patterns are built with integer operations so
+// that the result is the same on every target (with or without F16C) and
+// independent of the rounding mode.
+void F16ToF32(const uint16_t* HWY_RESTRICT src, float* HWY_RESTRICT dst, size_t n) {
+  const hn::ScalableTag<float> df;
+  const hn::Rebind<int32_t, decltype(df)> di;
+  const size_t N = hn::Lanes(df);
+  const auto k3ff = hn::Set(di, 0x3FF);
+  const auto k1f = hn::Set(di, 0x1F);
+  const auto kexp = hn::Set(di, 0x7F800000);
+  const auto k112 = hn::Set(di, 112);
+  const auto tiny = hn::Set(df, 0x1p-24f);
+  const auto zero = hn::Zero(di);
+  size_t i = 0;
+  for (; i + N <= n; i += N) {
+    const auto h = LoadAsI32(di, src + i);
+    const auto sign = hn::ShiftLeft<16>(hn::And(h, hn::Set(di, 0x8000)));
+    const auto e = hn::And(hn::ShiftRight<10>(h), k1f);
+    const auto m = hn::And(h, k3ff);
+    const auto normal = hn::Or(hn::ShiftLeft<23>(hn::Add(e, k112)), hn::ShiftLeft<13>(m));
+    const auto special = hn::Or(kexp, hn::ShiftLeft<13>(m));
+    const auto sub = hn::BitCast(di, hn::Mul(hn::ConvertTo(df, m), tiny));
+    auto r = hn::IfThenElse(hn::Eq(e, k1f), special, normal);
+    r = hn::IfThenElse(hn::Eq(e, zero), sub, r);
+    hn::StoreU(hn::BitCast(df, hn::Or(r, sign)), df, dst + i);
+  }
+  scalar::f16_to_f32(src + i, dst + i, n - i);
+}
+
+template <bool kNearest>
+void F32ToF16Loop(const float* HWY_RESTRICT src, uint16_t* HWY_RESTRICT dst, size_t n) {
+  const hn::ScalableTag<int32_t> di;
+  const hn::Rebind<uint16_t, decltype(di)> d16;
+  const size_t N = hn::Lanes(di);
+  const auto one = hn::Set(di, 1);
+  size_t i = 0;
+  for (; i + N <= n; i += N) {
+    const auto u = hn::BitCast(di, hn::LoadU(hn::Rebind<float, decltype(di)>(), src + i));
+    const auto sign = hn::And(hn::ShiftRight<16>(u), hn::Set(di, 0x8000));
+    const auto a = hn::And(u, hn::Set(di, 0x7FFFFFFF));
+    // Normal half results.
+    auto hn_ = hn::ShiftRight<13>(hn::Sub(a, hn::Set(di, 0x38000000)));
+    // Subnormal half results: the 24-bit significand shifted right by
+    // 126 - exponent (14..24 for the lanes that use it; clamped so that
+    // the other lanes shift by a defined amount).
+    const auto m = hn::Or(hn::And(a, hn::Set(di, 0x7FFFFF)), hn::Set(di, 0x800000));
+    const auto shift = hn::Min(hn::Max(hn::Sub(hn::Set(di, 126), hn::ShiftRight<23>(a)), hn::Set(di, 14)),
+                               hn::Set(di, 24));
+    auto hs = (m >> shift);
+    if (kNearest) {
+      const auto low = hn::And(a, hn::Set(di, 0x1FFF));
+      const auto half = hn::Set(di, 0x1000);
+      const auto up = hn::Or(hn::Gt(low, half), hn::And(hn::Eq(low, half), hn::Eq(hn::And(hn_, one), one)));
+      hn_ = hn::Sub(hn_, hn::VecFromMask(di, up));
+      const auto lows = hn::And(m, hn::Sub((one << shift), one));
+      const auto halfs = (one << hn::Sub(shift, one));
+      const auto ups = hn::Or(hn::Gt(lows, halfs), hn::And(hn::Eq(lows, halfs), hn::Eq(hn::And(hs, one), one)));
+      hs = hn::Sub(hs, hn::VecFromMask(di, ups));
+    }
+    const auto nan = hn::Or(hn::Set(di, 0x7E00), hn::And(hn::ShiftRight<13>(a), hn::Set(di, 0x3FF)));
+    const auto over = kNearest ? hn::Set(di, 0x7C00)
+                               : hn::IfThenElse(hn::Eq(a, hn::Set(di, 0x7F800000)), hn::Set(di, 0x7C00),
+                                                hn::Set(di, 0x7BFF));
+    auto h = hn::IfThenElseZero(hn::Gt(a, hn::Set(di, 0x32FFFFFF)), hs);
+    h = hn::IfThenElse(hn::Gt(a, hn::Set(di, 0x387FFFFF)), hn_, h);
+    h = hn::IfThenElse(hn::Gt(a, hn::Set(di, 0x477FFFFF)), over, h);
+    h = hn::IfThenElse(hn::Gt(a, hn::Set(di, 0x7F800000)), nan, h);
+    hn::StoreU(hn::DemoteTo(d16, hn::Or(h, sign)), d16, dst + i);
+  }
+  scalar::f32_to_f16(src + i, dst + i, n - i, kNearest);
+}
+
+void F32ToF16(const float* src, uint16_t* dst, size_t n, bool nearest) {
+  if (nearest) {
+    F32ToF16Loop<true>(src, dst, n);
+  } else {
+    F32ToF16Loop<false>(src, dst, n);
+  }
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace kels::kernels
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace kels::kernels {
+
+HWY_EXPORT(WidenS8S16);
+HWY_EXPORT(WidenS16S32);
+HWY_EXPORT(WidenF32F64);
+HWY_EXPORT(ToFloatS8);
+HWY_EXPORT(ToFloatU8);
+HWY_EXPORT(ToFloatS16);
+HWY_EXPORT(ToFloatU16);
+HWY_EXPORT(ToFloatS32);
+HWY_EXPORT(ToDoubleS16);
+HWY_EXPORT(ToDoubleS32);
+HWY_EXPORT(F64ToF32Sat);
+HWY_EXPORT(F32ToS8);
+HWY_EXPORT(F32ToU8);
+HWY_EXPORT(F32ToS16);
+HWY_EXPORT(F32ToU16);
+HWY_EXPORT(F32ToS32);
+HWY_EXPORT(S32ToS16Scaled);
+HWY_EXPORT(F16ToF32);
+HWY_EXPORT(F32ToF16);
+
+void widen(const std::int8_t* s, std::int16_t* d, std::size_t n) { HWY_DYNAMIC_DISPATCH(WidenS8S16)(s, d, n); }
+void widen(const std::int16_t* s, std::int32_t* d, std::size_t n) { HWY_DYNAMIC_DISPATCH(WidenS16S32)(s, d, n); }
+void widen(const float* s, double* d, std::size_t n) { HWY_DYNAMIC_DISPATCH(WidenF32F64)(s, d, n); }
+void to_float(const std::int8_t* s, float* d, std::size_t n, float f) { HWY_DYNAMIC_DISPATCH(ToFloatS8)(s, d, n, f); }
+void to_float(const std::uint8_t* s, float* d, std::size_t n, float f) { HWY_DYNAMIC_DISPATCH(ToFloatU8)(s, d, n, f); }
+void to_float(const std::int16_t* s, float* d, std::size_t n, float f) { HWY_DYNAMIC_DISPATCH(ToFloatS16)(s, d, n, f); }
+void to_float(const std::uint16_t* s, float* d, std::size_t n, float f) { HWY_DYNAMIC_DISPATCH(ToFloatU16)(s, d, n, f); }
+void to_float(const std::int32_t* s, float* d, std::size_t n, float f) { HWY_DYNAMIC_DISPATCH(ToFloatS32)(s, d, n, f); }
+void to_double(const std::int16_t* s, double* d, std::size_t n, double f) {
+  HWY_DYNAMIC_DISPATCH(ToDoubleS16)(s, d, n, f);
+}
+void to_double(const std::int32_t* s, double* d, std::size_t n, double f) {
+  HWY_DYNAMIC_DISPATCH(ToDoubleS32)(s, d, n, f);
+}
+void f64_to_f32_sat(const double* s, float* d, std::size_t n) { HWY_DYNAMIC_DISPATCH(F64ToF32Sat)(s, d, n); }
+
+namespace {
+// The vector kernels multiply by 2^-sf as a normal float; scale factors
+// outside -127..126 (whose results are 0 or saturated for nearly every
+// input, but not all) take the exact scalar path.
+template <class D, class K>
+void f32_to_int_dispatch(K kernel, const float* s, D* d, std::size_t n, int sf, bool nearest) {
+  if (sf < -127 || sf > 126) {
+    scalar::f_to_int(s, d, n, sf, nearest);
+    return;
+  }
+  kernel(s, d, n, scalar::bits_float(static_cast<std::uint32_t>(127 - sf) << 23), nearest);
+}
+}  // namespace
+
+void f32_to_int(const float* s, std::int8_t* d, std::size_t n, int sf, bool r) {
+  f32_to_int_dispatch(HWY_DYNAMIC_DISPATCH(F32ToS8), s, d, n, sf, r);
+}
+void f32_to_int(const float* s, std::uint8_t* d, std::size_t n, int sf, bool r) {
+  f32_to_int_dispatch(HWY_DYNAMIC_DISPATCH(F32ToU8), s, d, n, sf, r);
+}
+void f32_to_int(const float* s, std::int16_t* d, std::size_t n, int sf, bool r) {
+  f32_to_int_dispatch(HWY_DYNAMIC_DISPATCH(F32ToS16), s, d, n, sf, r);
+}
+void f32_to_int(const float* s, std::uint16_t* d, std::size_t n, int sf, bool r) {
+  f32_to_int_dispatch(HWY_DYNAMIC_DISPATCH(F32ToU16), s, d, n, sf, r);
+}
+void f32_to_int(const float* s, std::int32_t* d, std::size_t n, int sf, bool r) {
+  f32_to_int_dispatch(HWY_DYNAMIC_DISPATCH(F32ToS32), s, d, n, sf, r);
+}
+void s32_to_s16_scaled(const std::int32_t* s, std::int16_t* d, std::size_t n, int sf) {
+  HWY_DYNAMIC_DISPATCH(S32ToS16Scaled)(s, d, n, sf);
+}
+void f16_to_f32(const std::uint16_t* s, float* d, std::size_t n) { HWY_DYNAMIC_DISPATCH(F16ToF32)(s, d, n); }
+void f32_to_f16(const float* s, std::uint16_t* d, std::size_t n, bool nearest) {
+  HWY_DYNAMIC_DISPATCH(F32ToF16)(s, d, n, nearest);
+}
+
+}  // namespace kels::kernels
+#endif  // HWY_ONCE
