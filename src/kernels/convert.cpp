@@ -164,7 +164,8 @@ void F32ToS32(const float* s, int32_t* d, size_t n, float f, bool r) { F32ToIntT
 
 // 32s -> 16s with the scale rule. Right shifts round to nearest even from
 // the floor quotient and the remainder (no 64-bit intermediate needed);
-// left shifts clamp the source to the range that survives the shift.
+// left shifts first clamp the source to one step beyond the range that
+// survives the shift, so the shifted value cannot wrap and saturates.
 void S32ToS16Scaled(const int32_t* HWY_RESTRICT src, int16_t* HWY_RESTRICT dst, size_t n, int sf) {
   const hn::ScalableTag<int32_t> di;
   const hn::Rebind<int16_t, decltype(di)> d16;
@@ -185,8 +186,8 @@ void S32ToS16Scaled(const int32_t* HWY_RESTRICT src, int16_t* HWY_RESTRICT dst, 
     for (; i + N <= n; i += N) hn::StoreU(hn::DemoteTo(d16, hn::LoadU(di, src + i)), d16, dst + i);
   } else {
     const int k = -sf;
-    const auto lo = hn::Set(di, -(32768 >> k));
-    const auto hi = hn::Set(di, 32767 >> k);
+    const auto lo = hn::Set(di, -(32768 >> k) - 1);
+    const auto hi = hn::Set(di, (32767 >> k) + 1);
     for (; i + N <= n; i += N) {
       const auto x = hn::Min(hn::Max(hn::LoadU(di, src + i), lo), hi);
       hn::StoreU(hn::DemoteTo(d16, hn::ShiftLeftSame(x, k)), d16, dst + i);
