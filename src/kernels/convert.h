@@ -98,7 +98,7 @@ inline std::int64_t narrow_model(std::int64_t x, int sf, std::int64_t lo, std::i
   } else if (sf == 0 || x == 0) {
     r = x;
   } else {
-    const int k = -sf;
+    const int k = sf < -62 ? 62 : -sf;
     if (k >= 62) return x > 0 ? hi : lo;
     if (x > (hi >> k)) return hi;
     if (x < -((-lo) >> k)) return lo;

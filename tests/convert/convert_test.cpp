@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <climits>
 #include <cstdint>
 #include <cstring>
 #include <functional>
@@ -296,6 +297,32 @@ TEST(Convert, DoubleToFloatSaturatesInfinityAndNaN) {
   const float m = std::numeric_limits<float>::max();
   const float expect[] = {m, -m, -m, m, m, -m, static_cast<float>(1.0 / 3), -0.0f, static_cast<float>(1e-40)};
   for (int i = 0; i < 9; ++i) EXPECT_EQ(0, std::memcmp(&expect[i], &y[i], 4)) << i;
+}
+
+TEST(Convert, ExtremeScaleFactors) {
+  const Kel64s big[] = {5, -5, 0};
+  Kel32s r[3];
+  ASSERT_EQ(kelStsOk, kelsConvert_64s32s_Sfs(big, r, 3, INT_MAX));
+  EXPECT_EQ((std::vector<Kel32s>{0, 0, 0}), std::vector<Kel32s>(r, r + 3));
+  ASSERT_EQ(kelStsOk, kelsConvert_64s32s_Sfs(big, r, 3, INT_MIN));
+  EXPECT_EQ((std::vector<Kel32s>{INT32_MAX, INT32_MIN, 0}), std::vector<Kel32s>(r, r + 3));
+  const float f[] = {1.0f, -1.0f, 0.0f};
+  Kel16s s[3];
+  for (int rnd : {0, 1}) {
+    ASSERT_EQ(kelStsOk, kelsConvert_32f16s_Sfs(f, s, 3, rnd, INT_MIN));
+    EXPECT_EQ((std::vector<Kel16s>{32767, -32768, 0}), std::vector<Kel16s>(s, s + 3));
+    ASSERT_EQ(kelStsOk, kelsConvert_32f16s_Sfs(f, s, 3, rnd, INT_MAX));
+    EXPECT_EQ((std::vector<Kel16s>{0, 0, 0}), std::vector<Kel16s>(s, s + 3));
+  }
+  const double d[] = {1.0, -1.0, 0.0};
+  ASSERT_EQ(kelStsOk, kelsConvert_64f32s_Sfs(d, r, 3, 1, INT_MIN));
+  EXPECT_EQ((std::vector<Kel32s>{INT32_MAX, INT32_MIN, 0}), std::vector<Kel32s>(r, r + 3));
+  const Kel32s i32[] = {1, -1, 0};
+  ASSERT_EQ(kelStsOk, kelsConvert_32s16s_Sfs(i32, s, 3, INT_MIN));
+  EXPECT_EQ((std::vector<Kel16s>{32767, -32768, 0}), std::vector<Kel16s>(s, s + 3));
+  Kel64f w[3];
+  ASSERT_EQ(kelStsOk, kelsConvert_32s64f_Sfs(i32, w, 3, INT_MAX));
+  EXPECT_EQ(0x1p-1022, w[0]);
 }
 
 // ---- Half precision against the values of all 65536 codes.
