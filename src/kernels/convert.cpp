@@ -5,6 +5,7 @@
 #define HWY_TARGET_INCLUDE "kernels/convert.cpp"
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
 #include "hwy/highway.h"
+#include "hwy/cache_control.h"
 
 #include "kernels/convert.h"
 
@@ -26,6 +27,68 @@ HWY_INLINE hn::Vec<DI> LoadAsI32(DI di, const S* p) {
   }
 }
 
+// Raw x86 conversions of lanes already known to be in range or to be
+// meant as "invalid" (NaN and values below -2^31 give 0x80000000): no
+// overflow fix-up. The nearest form rounds in the current mode, which the
+// exported functions set to nearest-even for the call.
+#if HWY_TARGET != HWY_SCALAR
+template <size_t N>
+HWY_INLINE hn::Vec128<int32_t, N> CvtRaw(hn::Vec128<float, N> v, hwy::SizeTag<1> /*nearest*/) {
+  return hn::Vec128<int32_t, N>{_mm_cvtps_epi32(v.raw)};
+}
+template <size_t N>
+HWY_INLINE hn::Vec128<int32_t, N> CvtRaw(hn::Vec128<float, N> v, hwy::SizeTag<0> /*truncate*/) {
+  return hn::Vec128<int32_t, N>{_mm_cvttps_epi32(v.raw)};
+}
+#if HWY_TARGET <= HWY_AVX2
+HWY_INLINE hn::Vec256<int32_t> CvtRaw(hn::Vec256<float> v, hwy::SizeTag<1>) {
+  return hn::Vec256<int32_t>{_mm256_cvtps_epi32(v.raw)};
+}
+HWY_INLINE hn::Vec256<int32_t> CvtRaw(hn::Vec256<float> v, hwy::SizeTag<0>) {
+  return hn::Vec256<int32_t>{_mm256_cvttps_epi32(v.raw)};
+}
+#endif
+#if HWY_TARGET <= HWY_AVX3
+HWY_INLINE hn::Vec512<int32_t> CvtRaw(hn::Vec512<float> v, hwy::SizeTag<1>) {
+  return hn::Vec512<int32_t>{_mm512_cvtps_epi32(v.raw)};
+}
+HWY_INLINE hn::Vec512<int32_t> CvtRaw(hn::Vec512<float> v, hwy::SizeTag<0>) {
+  return hn::Vec512<int32_t>{_mm512_cvttps_epi32(v.raw)};
+}
+#endif
+#endif
+
+// Stores whole vectors; with kStream, non-temporal stores to an aligned
+// destination (large outputs that would only evict the cache). Vectors of
+// fewer than 16 bytes (narrowed results on the smaller targets) are stored
+// normally: the streaming store always writes 16 bytes.
+template <bool kStream, class D, class V, class T>
+HWY_INLINE void Put(V v, D d, T* p) {
+  if (kStream && hn::Lanes(d) * sizeof(T) >= 16) {
+    hn::Stream(v, d, p);
+  } else {
+    hn::StoreU(v, d, p);
+  }
+}
+
+// Outputs of at least this many bytes are written with non-temporal stores.
+constexpr size_t kStreamBytes = size_t{8} << 20;
+
+// Runs body(i0, i1, stream) over [0, n): for large outputs the part from
+// the first 64-byte aligned destination element on is streamed.
+template <class T, class Body>
+HWY_INLINE void SplitForStreaming(T* dst, size_t n, Body&& body) {
+  const uintptr_t a = reinterpret_cast<uintptr_t>(dst);
+  if (n * sizeof(T) < kStreamBytes || a % sizeof(T) != 0) {
+    body(0, n, std::false_type());
+    return;
+  }
+  const size_t head = ((64 - a % 64) % 64) / sizeof(T);
+  body(0, head, std::false_type());
+  body(head, n, std::true_type());
+  hwy::FlushStream();
+}
+
 template <class S, class D>
 void WidenT(const S* HWY_RESTRICT src, D* HWY_RESTRICT dst, size_t n) {
   const hn::ScalableTag<D> d;
@@ -42,29 +105,36 @@ void WidenF32F64(const float* s, double* d, size_t n) { WidenT(s, d, n); }
 
 // Integer -> single precision, optionally times a power of two. Two vectors
 // per step keep the converter busy at short lengths.
-template <bool kScale, class S>
-void ToFloatLoop(const S* HWY_RESTRICT src, float* HWY_RESTRICT dst, size_t n, float factor) {
+template <bool kScale, bool kStream, class S>
+size_t ToFloatRange(const S* HWY_RESTRICT src, float* HWY_RESTRICT dst, size_t i, size_t end, float factor) {
   const hn::ScalableTag<float> df;
   const hn::Rebind<int32_t, decltype(df)> di;
   const size_t N = hn::Lanes(df);
   const auto f = hn::Set(df, factor);
-  size_t i = 0;
-  for (; i + 2 * N <= n; i += 2 * N) {
+  for (; i + 2 * N <= end; i += 2 * N) {
     auto a = hn::ConvertTo(df, LoadAsI32(di, src + i));
     auto b = hn::ConvertTo(df, LoadAsI32(di, src + i + N));
     if (kScale) {
       a = hn::Mul(a, f);
       b = hn::Mul(b, f);
     }
-    hn::StoreU(a, df, dst + i);
-    hn::StoreU(b, df, dst + i + N);
+    Put<kStream>(a, df, dst + i);
+    Put<kStream>(b, df, dst + i + N);
   }
-  for (; i + N <= n; i += N) {
+  for (; i + N <= end; i += N) {
     auto a = hn::ConvertTo(df, LoadAsI32(di, src + i));
     if (kScale) a = hn::Mul(a, f);
-    hn::StoreU(a, df, dst + i);
+    Put<kStream>(a, df, dst + i);
   }
-  scalar::to_floating(src + i, dst + i, n - i, factor);
+  return i;
+}
+
+template <bool kScale, class S>
+void ToFloatLoop(const S* HWY_RESTRICT src, float* HWY_RESTRICT dst, size_t n, float factor) {
+  SplitForStreaming(dst, n, [&](size_t i0, size_t i1, auto stream) {
+    const size_t done = ToFloatRange<kScale, decltype(stream)::value>(src, dst, i0, i1, factor);
+    scalar::to_floating(src + done, dst + done, i1 - done, factor);
+  });
 }
 
 template <class S>
@@ -114,12 +184,15 @@ void F64ToF32Sat(const double* HWY_RESTRICT src, float* HWY_RESTRICT dst, size_t
   scalar::f64_to_f32_sat(src + i, dst + i, n - i);
 }
 
-// Single precision -> integer. The scaled value is clamped to the
-// destination's range in float (NaN taken as the minimum) so that the
-// conversion never overflows; 32-bit destinations, whose maximum a float
-// cannot hold, take 2^31 and above from a separate test.
-template <class D, bool kNearest>
-void F32ToIntLoop(const float* HWY_RESTRICT src, D* HWY_RESTRICT dst, size_t n, float factor) {
+// Single precision -> integer. On x86 the scaled value is only clamped from
+// above (minps returns its second operand, so NaN passes through); the
+// conversion gives 0x80000000 for NaN and for everything below -2^31, and
+// the saturating narrowing maps that to the destination's minimum. 32-bit
+// destinations, whose maximum a float cannot hold, and the portable target
+// clamp in float (NaN taken as the minimum) and take 2^31 and above from a
+// separate test.
+template <class D, bool kNearest, bool kStream>
+size_t F32ToIntRange(const float* HWY_RESTRICT src, D* HWY_RESTRICT dst, size_t i, size_t end, float factor) {
   const hn::ScalableTag<float> df;
   const hn::Rebind<int32_t, decltype(df)> di;
   const hn::Rebind<D, decltype(df)> dd;
@@ -130,21 +203,36 @@ void F32ToIntLoop(const float* HWY_RESTRICT src, D* HWY_RESTRICT dst, size_t n, 
   const auto hi = hn::Set(df, kWide ? 2147483520.0f : static_cast<float>(std::numeric_limits<D>::max()));
   const auto two31 = hn::Set(df, 2147483648.0f);
   const auto imax = hn::Set(di, std::numeric_limits<int32_t>::max());
-  size_t i = 0;
-  for (; i + N <= n; i += N) {
+  for (; i + N <= end; i += N) {
     const auto y = hn::Mul(hn::LoadU(df, src + i), f);
+#if HWY_TARGET != HWY_SCALAR
+    if constexpr (!kWide) {
+      const auto r = CvtRaw(hn::Min(hi, y), hwy::SizeTag<kNearest ? 1 : 0>());
+      Put<kStream>(hn::DemoteTo(dd, r), dd, dst + i);
+      continue;
+    }
+#endif
     const auto c = hn::Min(hn::Max(hn::IfThenElse(hn::Eq(y, y), y, lo), lo), hi);
     auto r = kNearest ? hn::NearestInt(c) : hn::ConvertTo(di, c);
     if constexpr (kWide) {
       r = hn::IfThenElse(hn::RebindMask(di, hn::Ge(y, two31)), imax, r);
-      hn::StoreU(r, di, reinterpret_cast<int32_t*>(dst) + i);
+      Put<kStream>(r, di, reinterpret_cast<int32_t*>(dst) + i);
     } else {
-      hn::StoreU(hn::DemoteTo(dd, r), dd, dst + i);
+      Put<kStream>(hn::DemoteTo(dd, r), dd, dst + i);
     }
   }
-  // The tail uses the twin with the same exact scaling.
-  const int sf = 127 - static_cast<int>(scalar::float_bits(factor) >> 23);
-  scalar::f_to_int(src + i, dst + i, n - i, sf, kNearest);
+  return i;
+}
+
+template <class D, bool kNearest>
+void F32ToIntLoop(const float* HWY_RESTRICT src, D* HWY_RESTRICT dst, size_t n, float factor) {
+  size_t done = 0;
+  SplitForStreaming(dst, n, [&](size_t i0, size_t i1, auto stream) {
+    done = F32ToIntRange<D, kNearest, decltype(stream)::value>(src, dst, i0, i1, factor);
+    // The unvectorised rest of a range goes through the twin.
+    const int sf = 127 - static_cast<int>(scalar::float_bits(factor) >> 23);
+    scalar::f_to_int(src + done, dst + done, i1 - done, sf, kNearest);
+  });
 }
 
 template <class D>

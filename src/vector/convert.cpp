@@ -57,10 +57,12 @@ constexpr unsigned kSseInvalid = 0x0001u, kSsePrecision = 0x0020u;
 
 class SseRounding {
  public:
-  explicit SseRounding(int rndMode) {
+  // One register write at most on entry and on exit: the register is only
+  // loaded when it must change (writes to it stall the pipeline).
+  explicit SseRounding(int rndMode) : prev_(_mm_getcsr()) {
     const unsigned rc = rndMode == 1 ? KEL_SSX_RC_NEAR : KEL_SSX_RC_ZERO;
-    prev_ = kel_set_rc_ssx(rc);
-    kel_set_cw_ssx((prev_ & ~(KEL_SSX_RC_MASK | kSseInvalid | kSsePrecision)) | rc);
+    const unsigned next = (prev_ & ~(KEL_SSX_RC_MASK | kSseInvalid | kSsePrecision)) | rc;
+    if (next != prev_) kel_set_cw_ssx(next);
   }
   ~SseRounding() {
     if (((_mm_getcsr() ^ prev_) & ~kSsePrecision) != 0) kel_set_cw_ssx(prev_);

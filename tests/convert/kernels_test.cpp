@@ -166,4 +166,33 @@ TEST(ConvertKernels, HalfPrecision) {
   }
 }
 
+// Outputs of 8 MiB and more take the streaming-store path from the first
+// 64-byte aligned element on; check it at a destination that is not aligned.
+TEST(ConvertKernels, LargeOutputsStreamed) {
+  kels::test::for_each_target([&](const std::string& target) {
+    std::mt19937 g(42);
+    const std::size_t n = (std::size_t{4} << 20) + 37;  // 8 MiB of 16-bit output, 16 MiB of float
+    std::vector<float> x(n);
+    for (std::size_t i = 0; i < n; ++i) x[i] = sample<float>(g, i);
+    Guarded<std::int16_t> out16(n, 6);
+    std::vector<std::int16_t> ref16(n);
+    for (bool nearest : {true, false}) {
+      f32_to_int(x.data(), out16.data(), n, -3, nearest);
+      scalar::f_to_int(x.data(), ref16.data(), n, -3, nearest);
+      ASSERT_EQ(0, std::memcmp(out16.data(), ref16.data(), n * 2)) << target;
+      ASSERT_TRUE(out16.guards_intact());
+    }
+    std::vector<std::int16_t> s(n);
+    for (std::size_t i = 0; i < n; ++i) s[i] = static_cast<std::int16_t>(g());
+    Guarded<float> outf(n, 4);
+    std::vector<float> reff(n);
+    for (float f : {1.0f, 0.25f}) {
+      to_float(s.data(), outf.data(), n, f);
+      scalar::to_floating(s.data(), reff.data(), n, f);
+      ASSERT_EQ(0, std::memcmp(outf.data(), reff.data(), n * 4)) << target;
+      ASSERT_TRUE(outf.guards_intact());
+    }
+  });
+}
+
 }  // namespace
