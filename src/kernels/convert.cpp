@@ -250,38 +250,87 @@ void F32ToS16(const float* s, int16_t* d, size_t n, float f, bool r) { F32ToIntT
 void F32ToU16(const float* s, uint16_t* d, size_t n, float f, bool r) { F32ToIntT(s, d, n, f, r); }
 void F32ToS32(const float* s, int32_t* d, size_t n, float f, bool r) { F32ToIntT(s, d, n, f, r); }
 
-// 32s -> 16s with the scale rule. Right shifts round to nearest even from
-// the floor quotient and the remainder (no 64-bit intermediate needed);
-// left shifts first clamp the source to one step beyond the range that
-// survives the shift, so the shifted value cannot wrap and saturates.
+// The integer scale rule on int32 lanes, saturated to [lo, hi]. Right
+// shifts round to nearest even from the floor quotient and the remainder
+// (no 64-bit intermediate needed); left shifts first clamp the source to one
+// step beyond the range that survives the shift, so the shifted value cannot
+// wrap. sf lies in -15..31.
+template <class DI>
+class ScaleS32 {
+ public:
+  using V = hn::Vec<DI>;
+  ScaleS32(DI di, int sf, int32_t lo, int32_t hi)
+      : sf_(sf),
+        k_(sf < 0 ? -sf : 0),
+        mask_(hn::Set(di, sf > 0 ? static_cast<int32_t>((uint32_t{1} << sf) - 1u) : 0)),
+        half_(hn::Set(di, sf > 0 ? static_cast<int32_t>(uint32_t{1} << (sf - 1)) : 0)),
+        one_(hn::Set(di, 1)),
+        lo_(hn::Set(di, lo)),
+        hi_(hn::Set(di, hi)),
+        pre_lo_(hn::Set(di, (lo >> k_) - 1)),
+        pre_hi_(hn::Set(di, (hi >> k_) + 1)) {}
+
+  V operator()(V x) const {
+    if (sf_ > 0) {
+      const V q = hn::ShiftRightSame(x, sf_);
+      const V rem = hn::And(x, mask_);
+      const auto up = hn::Or(hn::Gt(rem, half_), hn::And(hn::Eq(rem, half_), hn::Eq(hn::And(q, one_), one_)));
+      x = hn::Sub(q, hn::VecFromMask(DI(), up));
+    } else if (sf_ < 0) {
+      x = hn::ShiftLeftSame(hn::Min(hn::Max(x, pre_lo_), pre_hi_), k_);
+    }
+    return hn::Min(hn::Max(x, lo_), hi_);
+  }
+
+ private:
+  int sf_, k_;
+  V mask_, half_, one_, lo_, hi_, pre_lo_, pre_hi_;
+};
+
 void S32ToS16Scaled(const int32_t* HWY_RESTRICT src, int16_t* HWY_RESTRICT dst, size_t n, int sf) {
   const hn::ScalableTag<int32_t> di;
   const hn::Rebind<int16_t, decltype(di)> d16;
   const size_t N = hn::Lanes(di);
+  const ScaleS32<decltype(di)> scale(di, sf, -32768, 32767);
   size_t i = 0;
-  if (sf > 0) {
-    const auto mask = hn::Set(di, static_cast<int32_t>((uint32_t{1} << sf) - 1u));
-    const auto half = hn::Set(di, static_cast<int32_t>(uint32_t{1} << (sf - 1)));
-    const auto one = hn::Set(di, 1);
-    for (; i + N <= n; i += N) {
-      const auto x = hn::LoadU(di, src + i);
-      const auto q = hn::ShiftRightSame(x, sf);
-      const auto rem = hn::And(x, mask);
-      const auto up = hn::Or(hn::Gt(rem, half), hn::And(hn::Eq(rem, half), hn::Eq(hn::And(q, one), one)));
-      hn::StoreU(hn::DemoteTo(d16, hn::Sub(q, hn::VecFromMask(di, up))), d16, dst + i);
-    }
-  } else if (sf == 0) {
-    for (; i + N <= n; i += N) hn::StoreU(hn::DemoteTo(d16, hn::LoadU(di, src + i)), d16, dst + i);
-  } else {
-    const int k = -sf;
-    const auto lo = hn::Set(di, -(32768 >> k) - 1);
-    const auto hi = hn::Set(di, (32767 >> k) + 1);
-    for (; i + N <= n; i += N) {
-      const auto x = hn::Min(hn::Max(hn::LoadU(di, src + i), lo), hi);
-      hn::StoreU(hn::DemoteTo(d16, hn::ShiftLeftSame(x, k)), d16, dst + i);
-    }
-  }
+  for (; i + N <= n; i += N) hn::StoreU(hn::DemoteTo(d16, scale(hn::LoadU(di, src + i))), d16, dst + i);
   scalar::s32_to_s16_scaled(src + i, dst + i, n - i, sf);
+}
+
+// Packed 24-bit data through byte shuffles within 128-bit blocks: four
+// elements are twelve bytes. The loops read or write 16 bytes per group
+// and so stop while at least 16 bytes of the packed array remain.
+void Unpack24(const uint8_t* HWY_RESTRICT src, int32_t* HWY_RESTRICT dst, size_t n, bool is_signed) {
+  size_t i = 0;
+#if HWY_TARGET != HWY_SCALAR
+  const hn::FixedTag<uint8_t, 16> d8;
+  const hn::FixedTag<int32_t, 4> d32;
+  alignas(16) static constexpr uint8_t kSpread[16] = {0, 1, 2, 0x80, 3, 4, 5, 0x80, 6, 7, 8, 0x80, 9, 10, 11, 0x80};
+  const auto idx = hn::Load(d8, kSpread);
+  for (; i + 6 <= n; i += 4) {
+    auto v = hn::BitCast(d32, hn::TableLookupBytesOr0(hn::LoadU(d8, src + 3 * i), idx));
+    if (is_signed) v = hn::ShiftRight<8>(hn::ShiftLeft<8>(v));
+    hn::StoreU(v, d32, dst + i);
+  }
+#endif
+  scalar::unpack24(src + 3 * i, dst + i, n - i, is_signed);
+}
+
+void S32To24Scaled(const int32_t* HWY_RESTRICT src, uint8_t* HWY_RESTRICT dst, size_t n, int sf, int32_t lo,
+                   int32_t hi) {
+  size_t i = 0;
+#if HWY_TARGET != HWY_SCALAR
+  const hn::FixedTag<uint8_t, 16> d8;
+  const hn::FixedTag<int32_t, 4> d32;
+  alignas(16) static constexpr uint8_t kGather[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 0x80, 0x80, 0x80, 0x80};
+  const auto idx = hn::Load(d8, kGather);
+  const ScaleS32<decltype(d32)> scale(d32, sf, lo, hi);
+  for (; i + 6 <= n; i += 4) {
+    const auto v = hn::BitCast(d8, scale(hn::LoadU(d32, src + i)));
+    hn::StoreU(hn::TableLookupBytesOr0(v, idx), d8, dst + 3 * i);
+  }
+#endif
+  scalar::s32_to_24_scaled(src + i, dst + 3 * i, n - i, sf, lo, hi);
 }
 
 // Half precision. The bit patterns are built with integer operations so
@@ -388,6 +437,8 @@ HWY_EXPORT(F32ToS16);
 HWY_EXPORT(F32ToU16);
 HWY_EXPORT(F32ToS32);
 HWY_EXPORT(S32ToS16Scaled);
+HWY_EXPORT(Unpack24);
+HWY_EXPORT(S32To24Scaled);
 HWY_EXPORT(F16ToF32);
 HWY_EXPORT(F32ToF16);
 
@@ -438,6 +489,13 @@ void f32_to_int(const float* s, std::int32_t* d, std::size_t n, int sf, bool r) 
 }
 void s32_to_s16_scaled(const std::int32_t* s, std::int16_t* d, std::size_t n, int sf) {
   HWY_DYNAMIC_DISPATCH(S32ToS16Scaled)(s, d, n, sf);
+}
+void unpack24(const std::uint8_t* s, std::int32_t* d, std::size_t n, bool is_signed) {
+  HWY_DYNAMIC_DISPATCH(Unpack24)(s, d, n, is_signed);
+}
+void s32_to_24_scaled(const std::int32_t* s, std::uint8_t* d, std::size_t n, int sf, std::int32_t lo,
+                      std::int32_t hi) {
+  HWY_DYNAMIC_DISPATCH(S32To24Scaled)(s, d, n, sf, lo, hi);
 }
 void f16_to_f32(const std::uint16_t* s, float* d, std::size_t n) { HWY_DYNAMIC_DISPATCH(F16ToF32)(s, d, n); }
 void f32_to_f16(const float* s, std::uint16_t* d, std::size_t n, bool nearest) {

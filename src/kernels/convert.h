@@ -43,6 +43,14 @@ void f32_to_int(const float* src, std::int32_t* dst, std::size_t n, int sf, bool
 // ---- 32s -> 16s with the integer scale rule; sf must lie in -15..31.
 void s32_to_s16_scaled(const std::int32_t* src, std::int16_t* dst, std::size_t n, int sf);
 
+// ---- Packed 24-bit integers: element i is bytes 3i..3i+2, least
+// significant first. unpack24 sign-extends from bit 23 when is_signed;
+// s32_to_24_scaled applies the scale rule (sf in -15..31) and saturates to
+// [lo, hi] (the signed or the unsigned 24-bit range).
+void unpack24(const std::uint8_t* src, std::int32_t* dst, std::size_t n, bool is_signed);
+void s32_to_24_scaled(const std::int32_t* src, std::uint8_t* dst, std::size_t n, int sf, std::int32_t lo,
+                      std::int32_t hi);
+
 // ---- IEEE half precision (binary16 bit patterns).
 void f16_to_f32(const std::uint16_t* src, float* dst, std::size_t n);
 void f32_to_f16(const float* src, std::uint16_t* dst, std::size_t n, bool nearest);
@@ -133,6 +141,27 @@ inline void f64_to_f32_sat(const double* src, float* dst, std::size_t n) {
 
 inline void s32_to_s16_scaled(const std::int32_t* src, std::int16_t* dst, std::size_t n, int sf) {
   for (std::size_t i = 0; i < n; ++i) dst[i] = static_cast<std::int16_t>(narrow_model(src[i], sf, -32768, 32767));
+}
+
+inline std::int32_t get24(const std::uint8_t* p, bool is_signed) {
+  const std::uint32_t u = p[0] | (static_cast<std::uint32_t>(p[1]) << 8) | (static_cast<std::uint32_t>(p[2]) << 16);
+  return is_signed ? static_cast<std::int32_t>(u ^ 0x800000u) - 0x800000 : static_cast<std::int32_t>(u);
+}
+
+inline void put24(std::uint8_t* p, std::int64_t v) {
+  const std::uint32_t u = static_cast<std::uint32_t>(v);
+  p[0] = static_cast<std::uint8_t>(u);
+  p[1] = static_cast<std::uint8_t>(u >> 8);
+  p[2] = static_cast<std::uint8_t>(u >> 16);
+}
+
+inline void unpack24(const std::uint8_t* src, std::int32_t* dst, std::size_t n, bool is_signed) {
+  for (std::size_t i = 0; i < n; ++i) dst[i] = get24(src + 3 * i, is_signed);
+}
+
+inline void s32_to_24_scaled(const std::int32_t* src, std::uint8_t* dst, std::size_t n, int sf, std::int32_t lo,
+                             std::int32_t hi) {
+  for (std::size_t i = 0; i < n; ++i) put24(dst + 3 * i, narrow_model(src[i], sf, lo, hi));
 }
 
 inline std::uint32_t float_bits(float f) {

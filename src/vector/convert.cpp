@@ -21,8 +21,8 @@ namespace ks = kernels::scalar;
 // Element formats without a C type of their own: half precision travels as
 // Kel16u, packed 24-bit integers as the bytes (Kel8u) of each element.
 struct F16 {};
-struct U24 { static constexpr std::int64_t lo = 0, hi = 16777215; };
-struct S24 { static constexpr std::int64_t lo = -8388608, hi = 8388607; };
+struct U24 { static constexpr std::int32_t lo = 0, hi = 16777215; };
+struct S24 { static constexpr std::int32_t lo = -8388608, hi = 8388607; };
 
 template <class T> struct storage_of { using type = T; };
 template <> struct storage_of<F16> { using type = Kel16u; };
@@ -31,22 +31,6 @@ template <> struct storage_of<S24> { using type = Kel8u; };
 template <class T> using storage_t = typename storage_of<T>::type;
 
 template <class T> constexpr bool is_packed24 = std::is_same_v<T, U24> || std::is_same_v<T, S24>;
-
-// Element n of a packed array is bytes 3n..3n+2, least significant first.
-template <class P>
-std::int32_t get24(const Kel8u* p, std::size_t i) {
-  const std::uint32_t u = p[3 * i] | (static_cast<std::uint32_t>(p[3 * i + 1]) << 8) |
-                          (static_cast<std::uint32_t>(p[3 * i + 2]) << 16);
-  if constexpr (std::is_same_v<P, S24>) return static_cast<std::int32_t>(u ^ 0x800000u) - 0x800000;
-  return static_cast<std::int32_t>(u);
-}
-
-inline void put24(Kel8u* p, std::size_t i, std::int64_t v) {
-  const std::uint32_t u = static_cast<std::uint32_t>(v);
-  p[3 * i] = static_cast<Kel8u>(u);
-  p[3 * i + 1] = static_cast<Kel8u>(u >> 8);
-  p[3 * i + 2] = static_cast<Kel8u>(u >> 16);
-}
 
 // ---- Rounding control. The float-to-integer conversions run with the SSE
 // rounding field set to the requested mode and the invalid and precision
@@ -105,21 +89,26 @@ double factor_f64(int sf) {
 // Integer narrowing clamps the scale factor to -15..31 (32-bit sources).
 int clamp_narrow(int sf) { return std::clamp(sf, -15, 31); }
 
-// Processes n elements in blocks through a single-precision buffer (half
-// precision and the 16s <-> 16f forms go through single precision, which
-// holds both exactly).
-template <class F>
-void through_f32(std::size_t n, F&& step) {
+// Processes n elements in blocks through a stack buffer of T: half
+// precision and 16s <-> 16f go through single precision, which holds both
+// exactly; packed 24-bit data through 32-bit integers.
+template <class T, class F>
+void through(std::size_t n, F&& step) {
   constexpr std::size_t kBlock = 512;
-  alignas(64) float tmp[kBlock];
+  alignas(64) T tmp[kBlock];
   for (std::size_t i = 0; i < n; i += kBlock) step(i, std::min(kBlock, n - i), tmp);
 }
 
 // ---- Forms without modifiers.
 template <class S, class D>
 void run_plain(const storage_t<S>* src, storage_t<D>* dst, std::size_t n) {
-  if constexpr (is_packed24<S>) {
-    for (std::size_t i = 0; i < n; ++i) dst[i] = static_cast<D>(get24<S>(src, i));
+  if constexpr (is_packed24<S> && std::is_same_v<D, Kel32f>) {
+    through<std::int32_t>(n, [&](std::size_t i, std::size_t m, std::int32_t* tmp) {
+      kernels::unpack24(src + 3 * i, tmp, m, std::is_same_v<S, S24>);
+      kernels::to_float(tmp, dst + i, m, 1.0f);  // exact: below 2^24
+    });
+  } else if constexpr (is_packed24<S>) {
+    kernels::unpack24(src, reinterpret_cast<std::int32_t*>(dst), n, std::is_same_v<S, S24>);
   } else if constexpr (std::is_same_v<S, F16>) {
     kernels::f16_to_f32(src, dst, n);
   } else if constexpr (std::is_same_v<S, Kel64f>) {
@@ -148,15 +137,19 @@ void run_sfs(const storage_t<S>* src, storage_t<D>* dst, std::size_t n, int sf) 
     // 64-bit sources: the exact rule for every scale factor.
     for (std::size_t i = 0; i < n; ++i) dst[i] = static_cast<D>(ks::narrow_model(src[i], sf, INT32_MIN, INT32_MAX));
   } else if constexpr (std::is_same_v<S, Kel32f>) {
-    // Single precision to packed 24-bit: the float-to-integer model with
-    // rounding to nearest even.
+    // Single precision to packed 24-bit: the float-to-integer rule with
+    // rounding to nearest even, saturated to 32 bits and then (monotonic,
+    // so the same as saturating once) to 24 bits.
     SseRounding mode(1);
-    for (std::size_t i = 0; i < n; ++i) {
-      put24(dst, i, ks::float_to_int_model(ks::scaled(src[i], sf), true, D::lo, D::hi));
-    }
+    through<std::int32_t>(n, [&](std::size_t i, std::size_t m, std::int32_t* tmp) {
+      kernels::f32_to_int(src + i, tmp, m, sf, true);
+      kernels::s32_to_24_scaled(tmp, dst + 3 * i, m, 0, D::lo, D::hi);
+    });
+  } else if constexpr (std::is_same_v<S, Kel32s>) {
+    kernels::s32_to_24_scaled(src, dst, n, clamp_narrow(sf), D::lo, D::hi);
   } else {
-    const int s = clamp_narrow(sf);
-    for (std::size_t i = 0; i < n; ++i) put24(dst, i, ks::narrow_model(src[i], s, D::lo, D::hi));
+    const int s = clamp_narrow(sf);  // 32u sources: beyond the int32 lanes of the kernel
+    for (std::size_t i = 0; i < n; ++i) ks::put24(dst + 3 * i, ks::narrow_model(src[i], s, D::lo, D::hi));
   }
 }
 
@@ -174,7 +167,7 @@ void run_rnd_sfs(const storage_t<S>* src, D* dst, std::size_t n, int rnd, int sf
     }
   } else if constexpr (std::is_same_v<S, F16>) {
     SseRounding mode(rnd);
-    through_f32(n, [&](std::size_t i, std::size_t m, float* tmp) {
+    through<float>(n, [&](std::size_t i, std::size_t m, float* tmp) {
       kernels::f16_to_f32(src + i, tmp, m);
       kernels::f32_to_int(tmp, dst + i, m, sf, nearest);
     });
@@ -192,7 +185,7 @@ void run_rnd(const S* src, Kel16u* dst, std::size_t n, int rnd) {
   if constexpr (std::is_same_v<S, Kel32f>) {
     kernels::f32_to_f16(src, dst, n, nearest);
   } else {
-    through_f32(n, [&](std::size_t i, std::size_t m, float* tmp) {
+    through<float>(n, [&](std::size_t i, std::size_t m, float* tmp) {
       kernels::to_float(src + i, tmp, m, 1.0f);
       kernels::f32_to_f16(tmp, dst + i, m, nearest);
     });

@@ -166,6 +166,39 @@ TEST(ConvertKernels, HalfPrecision) {
   }
 }
 
+TEST(ConvertKernels, Packed24) {
+  kels::test::for_each_target([&](const std::string& target) {
+    std::mt19937 g(24);
+    for (int len : kels::test::sweep_lengths({16, 512})) {
+      const std::size_t n = static_cast<std::size_t>(len);
+      for (std::size_t off : {0, 1, 5}) {
+        Guarded<std::uint8_t> bytes(3 * n, off);
+        for (std::size_t i = 0; i < 3 * n; ++i) bytes[i] = static_cast<std::uint8_t>(g());
+        for (bool is_signed : {true, false}) {
+          Guarded<std::int32_t> out(n, 4 * (off % 2));
+          std::vector<std::int32_t> ref(n);
+          unpack24(bytes.data(), out.data(), n, is_signed);
+          scalar::unpack24(bytes.data(), ref.data(), n, is_signed);
+          ASSERT_EQ(0, std::memcmp(out.data(), ref.data(), 4 * n)) << target << " n=" << n;
+          ASSERT_TRUE(out.guards_intact());
+        }
+        Guarded<std::int32_t> x(n, 4 * (off % 2));
+        for (std::size_t i = 0; i < n; ++i) x[i] = sample<std::int32_t>(g, i) >> (i % 3 == 0 ? 0 : 8 + i % 9);
+        for (int sf : {-15, -3, 0, 1, 8, 9, 31}) {
+          for (auto [lo, hi] : {std::pair{-8388608, 8388607}, std::pair{0, 16777215}}) {
+            Guarded<std::uint8_t> out(3 * n, off);
+            std::vector<std::uint8_t> ref(3 * n);
+            s32_to_24_scaled(x.data(), out.data(), n, sf, lo, hi);
+            scalar::s32_to_24_scaled(x.data(), ref.data(), n, sf, lo, hi);
+            ASSERT_EQ(0, std::memcmp(out.data(), ref.data(), 3 * n)) << target << " n=" << n << " sf=" << sf;
+            ASSERT_TRUE(out.guards_intact()) << target << " n=" << n;
+          }
+        }
+      }
+    }
+  });
+}
+
 // Outputs of 8 MiB and more take the streaming-store path from the first
 // 64-byte aligned element on; check it at a destination that is not aligned.
 TEST(ConvertKernels, LargeOutputsStreamed) {
