@@ -103,29 +103,26 @@ void WidenS8S16(const int8_t* s, int16_t* d, size_t n) { WidenT(s, d, n); }
 void WidenS16S32(const int16_t* s, int32_t* d, size_t n) { WidenT(s, d, n); }
 void WidenF32F64(const float* s, double* d, size_t n) { WidenT(s, d, n); }
 
-// Integer -> single precision, optionally times a power of two. Two vectors
-// per step keep the converter busy at short lengths.
+// Integer -> single precision, optionally times a power of two. Four
+// vectors per step keep the converter busy at short lengths.
 template <bool kScale, bool kStream, class S>
 size_t ToFloatRange(const S* HWY_RESTRICT src, float* HWY_RESTRICT dst, size_t i, size_t end, float factor) {
   const hn::ScalableTag<float> df;
   const hn::Rebind<int32_t, decltype(df)> di;
   const size_t N = hn::Lanes(df);
   const auto f = hn::Set(df, factor);
-  for (; i + 2 * N <= end; i += 2 * N) {
-    auto a = hn::ConvertTo(df, LoadAsI32(di, src + i));
-    auto b = hn::ConvertTo(df, LoadAsI32(di, src + i + N));
-    if (kScale) {
-      a = hn::Mul(a, f);
-      b = hn::Mul(b, f);
-    }
-    Put<kStream>(a, df, dst + i);
-    Put<kStream>(b, df, dst + i + N);
-  }
-  for (; i + N <= end; i += N) {
-    auto a = hn::ConvertTo(df, LoadAsI32(di, src + i));
+  auto one = [&](size_t k) HWY_ATTR {
+    auto a = hn::ConvertTo(df, LoadAsI32(di, src + k));
     if (kScale) a = hn::Mul(a, f);
-    Put<kStream>(a, df, dst + i);
+    Put<kStream>(a, df, dst + k);
+  };
+  for (; i + 4 * N <= end; i += 4 * N) {
+    one(i);
+    one(i + N);
+    one(i + 2 * N);
+    one(i + 3 * N);
   }
+  for (; i + N <= end; i += N) one(i);
   return i;
 }
 
