@@ -71,7 +71,9 @@ HWY_INLINE void Put(V v, D d, T* p) {
   }
 }
 
-// Outputs of at least this many bytes are written with non-temporal stores.
+// Outputs of at least this many bytes (well beyond the second-level cache,
+// where the stored lines would only be read for ownership and evicted again)
+// are written with non-temporal stores.
 constexpr size_t kStreamBytes = size_t{8} << 20;
 
 // Runs body(i0, i1, stream) over [0, n): for large outputs the part from
