@@ -162,8 +162,123 @@ KELAPI KelStatus kelsSplitScaled_24s32f_D2L(const Kel8u* pSrc, int nChannels, in
 /* @decls-arithmetic */
 
 /* @decls-conversion */
+/* Conversions check pSrc, pDst (kelStsNullPtr) and len >= 1 (kelStsBadLength)
+ * and never fail otherwise: out-of-range values saturate. rndMode 1 rounds to
+ * nearest even, any other value toward zero. Float-to-integer results:
+ * x * 2^-scaleFactor rounded and saturated; NaN gives the type's minimum.
+ * 24u/24s: Kel8u* to 3-byte little-endian elements, len counts elements.
+ * 16f: IEEE half-precision bit patterns in Kel16u. */
+KELAPI KelStatus kelsConvert_8s16s(const Kel8s* pSrc, Kel16s* pDst, int len);
+KELAPI KelStatus kelsConvert_8s32f(const Kel8s* pSrc, Kel32f* pDst, int len);
+KELAPI KelStatus kelsConvert_8u32f(const Kel8u* pSrc, Kel32f* pDst, int len);
+KELAPI KelStatus kelsConvert_16s32s(const Kel16s* pSrc, Kel32s* pDst, int len);
+KELAPI KelStatus kelsConvert_16s32f(const Kel16s* pSrc, Kel32f* pDst, int len);
+KELAPI KelStatus kelsConvert_16u32f(const Kel16u* pSrc, Kel32f* pDst, int len);
+/* Integer to float with scale: times 2^-scaleFactor; the 32f forms clamp the
+ * scale factor to -112..126, the 64f forms to -1023..1022. */
+KELAPI KelStatus kelsConvert_16s32f_Sfs(const Kel16s* pSrc, Kel32f* pDst, int len, int scaleFactor);
+KELAPI KelStatus kelsConvert_16s64f_Sfs(const Kel16s* pSrc, Kel64f* pDst, int len, int scaleFactor);
+/* Saturating narrowing; the _Sfs forms round to nearest even and clamp the
+ * scale factor to -15..31 (64s32s: exact for every scale factor). */
+KELAPI KelStatus kelsConvert_32s16s(const Kel32s* pSrc, Kel16s* pDst, int len);
+KELAPI KelStatus kelsConvert_32s16s_Sfs(const Kel32s* pSrc, Kel16s* pDst, int len, int scaleFactor);
+/* 32s32f rounds in the processor's current mode. */
+KELAPI KelStatus kelsConvert_32s32f(const Kel32s* pSrc, Kel32f* pDst, int len);
+KELAPI KelStatus kelsConvert_32s32f_Sfs(const Kel32s* pSrc, Kel32f* pDst, int len, int scaleFactor);
+KELAPI KelStatus kelsConvert_32s64f(const Kel32s* pSrc, Kel64f* pDst, int len);
+KELAPI KelStatus kelsConvert_32s64f_Sfs(const Kel32s* pSrc, Kel64f* pDst, int len, int scaleFactor);
+KELAPI KelStatus kelsConvert_64s32s_Sfs(const Kel64s* pSrc, Kel32s* pDst, int len, int scaleFactor);
+KELAPI KelStatus kelsConvert_32f8s_Sfs(const Kel32f* pSrc, Kel8s* pDst, int len, int rndMode, int scaleFactor);
+KELAPI KelStatus kelsConvert_32f8u_Sfs(const Kel32f* pSrc, Kel8u* pDst, int len, int rndMode, int scaleFactor);
+KELAPI KelStatus kelsConvert_32f16s_Sfs(const Kel32f* pSrc, Kel16s* pDst, int len, int rndMode, int scaleFactor);
+KELAPI KelStatus kelsConvert_32f16u_Sfs(const Kel32f* pSrc, Kel16u* pDst, int len, int rndMode, int scaleFactor);
+KELAPI KelStatus kelsConvert_32f32s_Sfs(const Kel32f* pSrc, Kel32s* pDst, int len, int rndMode, int scaleFactor);
+KELAPI KelStatus kelsConvert_64f32s_Sfs(const Kel64f* pSrc, Kel32s* pDst, int len, int rndMode, int scaleFactor);
+KELAPI KelStatus kelsConvert_32f64f(const Kel32f* pSrc, Kel64f* pDst, int len);
+/* Values >= FLT_MAX give FLT_MAX; below -FLT_MAX and NaN give -FLT_MAX. */
+KELAPI KelStatus kelsConvert_64f32f(const Kel64f* pSrc, Kel32f* pDst, int len);
+KELAPI KelStatus kelsConvert_24u32u(const Kel8u* pSrc, Kel32u* pDst, int len);
+KELAPI KelStatus kelsConvert_32u24u_Sfs(const Kel32u* pSrc, Kel8u* pDst, int len, int scaleFactor);
+KELAPI KelStatus kelsConvert_24s32s(const Kel8u* pSrc, Kel32s* pDst, int len);
+KELAPI KelStatus kelsConvert_32s24s_Sfs(const Kel32s* pSrc, Kel8u* pDst, int len, int scaleFactor);
+KELAPI KelStatus kelsConvert_24u32f(const Kel8u* pSrc, Kel32f* pDst, int len);
+/* 32f24u / 32f24s round to nearest even. */
+KELAPI KelStatus kelsConvert_32f24u_Sfs(const Kel32f* pSrc, Kel8u* pDst, int len, int scaleFactor);
+KELAPI KelStatus kelsConvert_24s32f(const Kel8u* pSrc, Kel32f* pDst, int len);
+KELAPI KelStatus kelsConvert_32f24s_Sfs(const Kel32f* pSrc, Kel8u* pDst, int len, int scaleFactor);
+KELAPI KelStatus kelsConvert_16f32f(const Kel16u* pSrc, Kel32f* pDst, int len);
+/* To half precision: IEEE rounding in rndMode (overflow gives infinity when
+ * rounding to nearest, 65504 when truncating). */
+KELAPI KelStatus kelsConvert_32f16f(const Kel32f* pSrc, Kel16u* pDst, int len, int rndMode);
+KELAPI KelStatus kelsConvert_16s16f(const Kel16s* pSrc, Kel16u* pDst, int len, int rndMode);
+KELAPI KelStatus kelsConvert_16f16s_Sfs(const Kel16u* pSrc, Kel16s* pDst, int len, int rndMode, int scaleFactor);
 
 /* @decls-logic */
+/* Bitwise: pDst[n] = pSrc1[n] op pSrc2[n] (or op val); null pointers, then len. */
+KELAPI KelStatus kelsAnd_8u(const Kel8u* pSrc1, const Kel8u* pSrc2, Kel8u* pDst, int len);
+KELAPI KelStatus kelsAnd_8u_I(const Kel8u* pSrc, Kel8u* pSrcDst, int len);
+KELAPI KelStatus kelsAndC_8u(const Kel8u* pSrc, Kel8u val, Kel8u* pDst, int len);
+KELAPI KelStatus kelsAndC_8u_I(Kel8u val, Kel8u* pSrcDst, int len);
+KELAPI KelStatus kelsOr_8u(const Kel8u* pSrc1, const Kel8u* pSrc2, Kel8u* pDst, int len);
+KELAPI KelStatus kelsOr_8u_I(const Kel8u* pSrc, Kel8u* pSrcDst, int len);
+KELAPI KelStatus kelsOrC_8u(const Kel8u* pSrc, Kel8u val, Kel8u* pDst, int len);
+KELAPI KelStatus kelsOrC_8u_I(Kel8u val, Kel8u* pSrcDst, int len);
+KELAPI KelStatus kelsXor_8u(const Kel8u* pSrc1, const Kel8u* pSrc2, Kel8u* pDst, int len);
+KELAPI KelStatus kelsXor_8u_I(const Kel8u* pSrc, Kel8u* pSrcDst, int len);
+KELAPI KelStatus kelsXorC_8u(const Kel8u* pSrc, Kel8u val, Kel8u* pDst, int len);
+KELAPI KelStatus kelsXorC_8u_I(Kel8u val, Kel8u* pSrcDst, int len);
+KELAPI KelStatus kelsNot_8u(const Kel8u* pSrc, Kel8u* pDst, int len);
+KELAPI KelStatus kelsNot_8u_I(Kel8u* pSrcDst, int len);
+KELAPI KelStatus kelsAnd_16u(const Kel16u* pSrc1, const Kel16u* pSrc2, Kel16u* pDst, int len);
+KELAPI KelStatus kelsAnd_16u_I(const Kel16u* pSrc, Kel16u* pSrcDst, int len);
+KELAPI KelStatus kelsAndC_16u(const Kel16u* pSrc, Kel16u val, Kel16u* pDst, int len);
+KELAPI KelStatus kelsAndC_16u_I(Kel16u val, Kel16u* pSrcDst, int len);
+KELAPI KelStatus kelsOr_16u(const Kel16u* pSrc1, const Kel16u* pSrc2, Kel16u* pDst, int len);
+KELAPI KelStatus kelsOr_16u_I(const Kel16u* pSrc, Kel16u* pSrcDst, int len);
+KELAPI KelStatus kelsOrC_16u(const Kel16u* pSrc, Kel16u val, Kel16u* pDst, int len);
+KELAPI KelStatus kelsOrC_16u_I(Kel16u val, Kel16u* pSrcDst, int len);
+KELAPI KelStatus kelsXor_16u(const Kel16u* pSrc1, const Kel16u* pSrc2, Kel16u* pDst, int len);
+KELAPI KelStatus kelsXor_16u_I(const Kel16u* pSrc, Kel16u* pSrcDst, int len);
+KELAPI KelStatus kelsXorC_16u(const Kel16u* pSrc, Kel16u val, Kel16u* pDst, int len);
+KELAPI KelStatus kelsXorC_16u_I(Kel16u val, Kel16u* pSrcDst, int len);
+KELAPI KelStatus kelsNot_16u(const Kel16u* pSrc, Kel16u* pDst, int len);
+KELAPI KelStatus kelsNot_16u_I(Kel16u* pSrcDst, int len);
+KELAPI KelStatus kelsAnd_32u(const Kel32u* pSrc1, const Kel32u* pSrc2, Kel32u* pDst, int len);
+KELAPI KelStatus kelsAnd_32u_I(const Kel32u* pSrc, Kel32u* pSrcDst, int len);
+KELAPI KelStatus kelsAndC_32u(const Kel32u* pSrc, Kel32u val, Kel32u* pDst, int len);
+KELAPI KelStatus kelsAndC_32u_I(Kel32u val, Kel32u* pSrcDst, int len);
+KELAPI KelStatus kelsOr_32u(const Kel32u* pSrc1, const Kel32u* pSrc2, Kel32u* pDst, int len);
+KELAPI KelStatus kelsOr_32u_I(const Kel32u* pSrc, Kel32u* pSrcDst, int len);
+KELAPI KelStatus kelsOrC_32u(const Kel32u* pSrc, Kel32u val, Kel32u* pDst, int len);
+KELAPI KelStatus kelsOrC_32u_I(Kel32u val, Kel32u* pSrcDst, int len);
+KELAPI KelStatus kelsXor_32u(const Kel32u* pSrc1, const Kel32u* pSrc2, Kel32u* pDst, int len);
+KELAPI KelStatus kelsXor_32u_I(const Kel32u* pSrc, Kel32u* pSrcDst, int len);
+KELAPI KelStatus kelsXorC_32u(const Kel32u* pSrc, Kel32u val, Kel32u* pDst, int len);
+KELAPI KelStatus kelsXorC_32u_I(Kel32u val, Kel32u* pSrcDst, int len);
+KELAPI KelStatus kelsNot_32u(const Kel32u* pSrc, Kel32u* pDst, int len);
+KELAPI KelStatus kelsNot_32u_I(Kel32u* pSrcDst, int len);
+/* Shifts by val bits. Checked in this order: val == 0 copies (kelsCopy_* of the
+ * same width, its status); val >= width zero-fills (kelsZero_*, its status;
+ * null pSrc gives kelStsNullPtr); then pointers, len, val < 0 (kelStsBadShift).
+ * Signed right shifts are arithmetic and never zero-fill (val >= width acts as
+ * width - 1). _I forms: val >= width zero-fills first; then pointer, len,
+ * val < 0; val == 0 returns kelStsOk untouched. */
+KELAPI KelStatus kelsLShiftC_8u(const Kel8u* pSrc, int val, Kel8u* pDst, int len);
+KELAPI KelStatus kelsLShiftC_8u_I(int val, Kel8u* pSrcDst, int len);
+KELAPI KelStatus kelsRShiftC_8u(const Kel8u* pSrc, int val, Kel8u* pDst, int len);
+KELAPI KelStatus kelsRShiftC_8u_I(int val, Kel8u* pSrcDst, int len);
+KELAPI KelStatus kelsLShiftC_16u(const Kel16u* pSrc, int val, Kel16u* pDst, int len);
+KELAPI KelStatus kelsLShiftC_16u_I(int val, Kel16u* pSrcDst, int len);
+KELAPI KelStatus kelsRShiftC_16u(const Kel16u* pSrc, int val, Kel16u* pDst, int len);
+KELAPI KelStatus kelsRShiftC_16u_I(int val, Kel16u* pSrcDst, int len);
+KELAPI KelStatus kelsLShiftC_16s(const Kel16s* pSrc, int val, Kel16s* pDst, int len);
+KELAPI KelStatus kelsLShiftC_16s_I(int val, Kel16s* pSrcDst, int len);
+KELAPI KelStatus kelsRShiftC_16s(const Kel16s* pSrc, int val, Kel16s* pDst, int len);
+KELAPI KelStatus kelsRShiftC_16s_I(int val, Kel16s* pSrcDst, int len);
+KELAPI KelStatus kelsLShiftC_32s(const Kel32s* pSrc, int val, Kel32s* pDst, int len);
+KELAPI KelStatus kelsLShiftC_32s_I(int val, Kel32s* pSrcDst, int len);
+KELAPI KelStatus kelsRShiftC_32s(const Kel32s* pSrc, int val, Kel32s* pDst, int len);
+KELAPI KelStatus kelsRShiftC_32s_I(int val, Kel32s* pSrcDst, int len);
 
 /* @decls-statistics */
 
