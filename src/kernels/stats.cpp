@@ -255,7 +255,7 @@ double NormKT(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, size_t n) {
           xi[k] = hn::Sub(xi[k], yi[k]);
         }
       }
-      for (size_t k = 0; k < kParts<T>; ++k) m[k] = hn::MulAdd(xr[k], xr[k], hn::Mul(xi[k], xi[k]));
+      for (size_t k = 0; k < kParts<T>; ++k) m[k] = hn::Add(hn::Mul(xr[k], xr[k]), hn::Mul(xi[k], xi[k]));  // unfused, as the twin
     } else {
       Widen(hn::LoadU(d, a + i), m);
       if (b != nullptr) {
