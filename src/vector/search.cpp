@@ -68,13 +68,15 @@ void index_extremes(Src& src, std::size_t n, Found<V>* lo, Found<V>* hi) {
       if (i0 != 0) c = src.chunk(i0, m);
       V cmn = c[0], cmx = c[0];
       kk::min_max(c, m, lo ? &cmn : nullptr, hi ? &cmx : nullptr);
+      // The value reported is the element found, so that a zero keeps the
+      // sign of its first occurrence as in the scalar scan.
       if (lo && cmn < l.value) {
         const std::size_t k = kk::find_first(c, m, cmn);
-        if (k < m) l = {cmn, i0 + k};
+        if (k < m) l = {c[k], i0 + k};
       }
       if (hi && cmx > h.value) {
         const std::size_t k = kk::find_first(c, m, cmx);
-        if (k < m) h = {cmx, i0 + k};
+        if (k < m) h = {c[k], i0 + k};
       }
     }
   }

@@ -45,7 +45,9 @@ TEST(StatsIntegerReductions, SumsFollowTheScaleRule) {
       EXPECT_EQ(rc16.re, scale_model<Kel16s>(re, sf));
       EXPECT_EQ(rc16.im, scale_model<Kel16s>(im, sf));
       ASSERT_EQ(kelsSum_32s_Sfs(a32.data(), n, &r32, sf), kelStsOk);
-      if (std::abs(s32) < (std::int64_t{1} << 50)) EXPECT_EQ(r32, scale_model<Kel32s>(s32, sf)) << n << " " << sf;
+      if (std::abs(s32) < (std::int64_t{1} << 50)) {
+        EXPECT_EQ(r32, scale_model<Kel32s>(s32, sf)) << n << " " << sf;
+      }
     }
   }
   // Ties to even, saturation, very negative scale factors.

@@ -267,7 +267,9 @@ TEST(StatsSearch, MaxOrder) {
       EXPECT_EQ(order, c.order) << c.x << " n=" << n;
       std::vector<Kel64f> w(v.begin(), v.end());
       ASSERT_EQ(kelsMaxOrder_64f(w.data(), n, &order), kelStsOk);
-      if (c.x != 0 && std::fabs(c.x) >= 1e-38f) EXPECT_EQ(order, c.order) << c.x;
+      if (c.x != 0 && std::fabs(c.x) >= 1e-38f) {
+        EXPECT_EQ(order, c.order) << c.x;
+      }
     }
   }
   for (const float bad : {INFINITY, -INFINITY, NAN}) {
