@@ -301,6 +301,116 @@ double NormT(const T* a, const T* b, size_t n, NormKind kind, bool complex) {
 double NormF32(const float* a, const float* b, size_t n, NormKind k, bool c) { return NormT(a, b, n, k, c); }
 double NormF64(const double* a, const double* b, size_t n, NormKind k, bool c) { return NormT(a, b, n, k, c); }
 
+// ---- Exact sums of 16-bit integers through the pairwise multiply-add
+// (pmaddwd): each 32-bit lane receives x[2k] * w[2k] + x[2k+1] * w[2k+1].
+
+#if HWY_TARGET != HWY_SCALAR
+using D16 = hn::ScalableTag<int16_t>;
+using D32 = hn::RepartitionToWide<D16>;
+using D64 = hn::RepartitionToWide<D32>;
+
+HWY_INLINE void AddWidened(hn::Vec<D32> v, hn::Vec<D64>& lo, hn::Vec<D64>& hi) {
+  const D64 d64;
+  const hn::Half<D32> dh;
+  lo = hn::Add(lo, hn::PromoteTo(d64, hn::LowerHalf(dh, v)));
+  hi = hn::Add(hi, hn::PromoteTo(d64, hn::UpperHalf(dh, v)));
+}
+
+template <class D>
+int64_t SumLanes64(D d, hn::Vec<D> v) {
+  alignas(64) hn::TFromD<D> buf[HWY_MAX_BYTES / 8];
+  hn::StoreU(v, d, buf);
+  int64_t s = 0;
+  for (size_t k = 0; k < hn::Lanes(d); ++k) s += static_cast<int64_t>(buf[k]);
+  return s;
+}
+#endif
+
+void SumsI16(const int16_t* HWY_RESTRICT p, size_t n, size_t stride, int64_t* out) {
+#if HWY_TARGET == HWY_SCALAR
+  scalar::sums_i16(p, n, stride, out);
+#else
+  const D16 d16;
+  const D32 d32;
+  const D64 d64;
+  const size_t N = hn::Lanes(d16);
+  // Weights select the parts: all ones, or ones on even / odd lanes.
+  const auto one = hn::Set(d16, 1), zero = hn::Zero(d16);
+  const auto w0 = stride == 1 ? one : hn::OddEven(zero, one);
+  const auto w1 = hn::OddEven(one, zero);
+  auto lo0 = hn::Zero(d64), hi0 = hn::Zero(d64), lo1 = hn::Zero(d64), hi1 = hn::Zero(d64);
+  // A 32-bit lane gains at most 65536 in magnitude per step: 2^14 steps
+  // stay below 2^31.
+  constexpr size_t kSteps = size_t{1} << 14;
+  size_t i = 0;
+  while (i + N <= n) {
+    auto s0 = hn::Zero(d32), s1 = hn::Zero(d32), unused = hn::Zero(d32);
+    for (size_t k = 0; k < kSteps && i + N <= n; ++k, i += N) {
+      const auto v = hn::LoadU(d16, p + i);
+      s0 = hn::ReorderWidenMulAccumulate(d32, v, w0, s0, unused);
+      if (stride == 2) s1 = hn::ReorderWidenMulAccumulate(d32, v, w1, s1, unused);
+    }
+    AddWidened(s0, lo0, hi0);
+    AddWidened(s1, lo1, hi1);
+  }
+  int64_t tail[2] = {0, 0};
+  scalar::sums_i16(p + i, n - i, stride, tail);
+  out[0] = SumLanes64(d64, hn::Add(lo0, hi0)) + tail[0];
+  if (stride == 2) out[1] = SumLanes64(d64, hn::Add(lo1, hi1)) + tail[1];
+#endif
+}
+
+// Pairs of squares lie in [0, 2^31]: read as unsigned 32-bit values.
+uint64_t SumSqI16(const int16_t* HWY_RESTRICT p, size_t n) {
+#if HWY_TARGET == HWY_SCALAR
+  return scalar::sum_sq_i16(p, n);
+#else
+  const D16 d16;
+  const D32 d32;
+  const hn::RebindToUnsigned<D32> du32;
+  const hn::RebindToUnsigned<D64> du64;
+  const hn::Half<decltype(du32)> duh;
+  const size_t N = hn::Lanes(d16);
+  auto lo = hn::Zero(du64), hi = hn::Zero(du64);
+  size_t i = 0;
+  for (; i + N <= n; i += N) {
+    const auto v = hn::LoadU(d16, p + i);
+    auto unused = hn::Zero(d32);
+    const auto sq = hn::BitCast(du32, hn::ReorderWidenMulAccumulate(d32, v, v, hn::Zero(d32), unused));
+    lo = hn::Add(lo, hn::PromoteTo(du64, hn::LowerHalf(duh, sq)));
+    hi = hn::Add(hi, hn::PromoteTo(du64, hn::UpperHalf(duh, sq)));
+  }
+  return static_cast<uint64_t>(SumLanes64(du64, hn::Add(lo, hi))) + scalar::sum_sq_i16(p + i, n - i);
+#endif
+}
+
+// A pair of products lies in [-2^31 + 2^16, 2^31]; only 2^31 (both pairs
+// -32768 * -32768) wraps, onto INT32_MIN, a value that cannot occur
+// otherwise. Subtracting 1 (wrapping) maps every attainable value onto
+// [-2^31, 2^31 - 1] exactly, so the sign-extended lane plus 1 is the true
+// pair sum; the 1s are added back once at the end.
+int64_t DotI16(const int16_t* HWY_RESTRICT a, const int16_t* HWY_RESTRICT b, size_t n) {
+#if HWY_TARGET == HWY_SCALAR
+  return scalar::dot_i16(a, b, n);
+#else
+  const D16 d16;
+  const D32 d32;
+  const D64 d64;
+  const size_t N = hn::Lanes(d16);
+  const auto one = hn::Set(d32, 1);
+  auto lo = hn::Zero(d64), hi = hn::Zero(d64);
+  size_t i = 0;
+  for (; i + N <= n; i += N) {
+    auto unused = hn::Zero(d32);
+    const auto pair = hn::ReorderWidenMulAccumulate(d32, hn::LoadU(d16, a + i), hn::LoadU(d16, b + i),
+                                                    hn::Zero(d32), unused);
+    AddWidened(hn::Sub(pair, one), lo, hi);
+  }
+  const int64_t ones = static_cast<int64_t>(i / 2);  // one per pair
+  return SumLanes64(d64, hn::Add(lo, hi)) + ones + scalar::dot_i16(a + i, b + i, n - i);
+#endif
+}
+
 // ---- Extremes. Four accumulators per result hide the latency of float
 // min/max; a last vector overlapping the previous one covers the tail
 // (min and max are idempotent).
@@ -484,6 +594,9 @@ HWY_EXPORT(DotCCF32);
 HWY_EXPORT(DotCCF64);
 HWY_EXPORT(NormF32);
 HWY_EXPORT(NormF64);
+HWY_EXPORT(SumsI16);
+HWY_EXPORT(SumSqI16);
+HWY_EXPORT(DotI16);
 HWY_EXPORT(MagnitudeI16);
 HWY_EXPORT(MagnitudeI32);
 HWY_EXPORT(MaxMagnitudeBitsF32);
@@ -507,6 +620,14 @@ double norm(const float* a, const float* b, std::size_t n, NormKind k, bool c) {
 }
 double norm(const double* a, const double* b, std::size_t n, NormKind k, bool c) {
   return HWY_DYNAMIC_DISPATCH(NormF64)(a, b, n, k, c);
+}
+
+void sums_i16(const std::int16_t* p, std::size_t n, std::size_t s, std::int64_t* o) {
+  HWY_DYNAMIC_DISPATCH(SumsI16)(p, n, s, o);
+}
+std::uint64_t sum_sq_i16(const std::int16_t* p, std::size_t n) { return HWY_DYNAMIC_DISPATCH(SumSqI16)(p, n); }
+std::int64_t dot_i16(const std::int16_t* a, const std::int16_t* b, std::size_t n) {
+  return HWY_DYNAMIC_DISPATCH(DotI16)(a, b, n);
 }
 
 #define KELS_STATS_EXTREME_DISPATCH(T, name)                                           \

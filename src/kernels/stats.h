@@ -44,6 +44,16 @@ enum class NormKind { kInf, kL1, kL2Sqr };
 double norm(const float* a, const float* b, std::size_t n, NormKind kind, bool complex);
 double norm(const double* a, const double* b, std::size_t n, NormKind kind, bool complex);
 
+// ---- Exact sums of 16-bit integers ----------------------------------------
+
+// Sums of n scalars (stride 1), or of the even- and odd-indexed scalars
+// separately (stride 2, interleaved complex data).
+void sums_i16(const std::int16_t* p, std::size_t n, std::size_t stride, std::int64_t* out);
+// Sum of squares (below 2^62 for any length that fits an int).
+std::uint64_t sum_sq_i16(const std::int16_t* p, std::size_t n);
+// Sum of products.
+std::int64_t dot_i16(const std::int16_t* a, const std::int16_t* b, std::size_t n);
+
 // ---- Extremes --------------------------------------------------------------
 
 // Smallest and/or largest of n >= 1 elements (a null output is not
@@ -190,6 +200,25 @@ double norm(const T* a, const T* b, std::size_t n, NormKind kind, bool complex) 
     }
   }
   return kind == NormKind::kInf ? std::sqrt(acc) : acc;
+}
+
+inline void sums_i16(const std::int16_t* p, std::size_t n, std::size_t stride, std::int64_t* out) {
+  std::int64_t s[2] = {0, 0};
+  for (std::size_t i = 0; i < n; ++i) s[i % stride] += p[i];
+  out[0] = s[0];
+  if (stride == 2) out[1] = s[1];
+}
+
+inline std::uint64_t sum_sq_i16(const std::int16_t* p, std::size_t n) {
+  std::uint64_t s = 0;
+  for (std::size_t i = 0; i < n; ++i) s += static_cast<std::uint64_t>(std::int32_t{p[i]} * p[i]);
+  return s;
+}
+
+inline std::int64_t dot_i16(const std::int16_t* a, const std::int16_t* b, std::size_t n) {
+  std::int64_t s = 0;
+  for (std::size_t i = 0; i < n; ++i) s += std::int32_t{a[i]} * b[i];
+  return s;
 }
 
 template <class T>

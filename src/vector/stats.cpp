@@ -29,21 +29,22 @@ void put_parts(R* out, const V* v) {
   for (std::size_t c = 0; c < width<R>; ++c) scalars(out)[c] = static_cast<part_t<R>>(v[c]);
 }
 
-// Exact per-part sums of integer data.
+// Exact per-part sums of integer data (16-bit data in the vector kernel).
 template <class T>
 void int_sums(const T* src, std::size_t n, std::int64_t* out) {
   const auto* p = scalars(src);
-  std::int64_t s0 = 0, s1 = 0;
-  if constexpr (is_complex<T>) {
-    for (std::size_t i = 0; i < n; ++i) {
-      s0 += p[2 * i];
-      s1 += p[2 * i + 1];
-    }
+  out[1] = 0;
+  if constexpr (std::is_same_v<part_t<T>, Kel16s>) {
+    kk::sums_i16(p, n * width<T>, width<T>, out);
   } else {
-    for (std::size_t i = 0; i < n; ++i) s0 += p[i];
+    std::int64_t s0 = 0, s1 = 0;
+    for (std::size_t i = 0; i < n; ++i) {
+      s0 += p[width<T> * i];
+      if constexpr (is_complex<T>) s1 += p[2 * i + 1];
+    }
+    out[0] = s0;
+    out[1] = s1;
   }
-  out[0] = s0;
-  out[1] = s1;
 }
 
 // Per-part sums of float data: the extended accumulation for single
@@ -157,13 +158,11 @@ KelStatus stddev_int(const Kel16s* src, int len, R* out, int sf) {
   KELS_REQUIRE_LEN(len);
   if (len < 2) return kelStsBadLength;
   const std::size_t n = static_cast<std::size_t>(len);
-  std::int64_t s1 = 0, s2 = 0;
-  for (std::size_t i = 0; i < n; ++i) {
-    s1 += src[i];
-    s2 += static_cast<std::int32_t>(src[i]) * src[i];
-  }
+  std::int64_t s1 = 0;
+  kk::sums_i16(src, n, 1, &s1);
+  const std::uint64_t s2 = kk::sum_sq_i16(src, n);
   const std::uint64_t a1 = static_cast<std::uint64_t>(s1 < 0 ? -s1 : s1);
-  Wide num = Wide::from_u128(mul(n, static_cast<std::uint64_t>(s2)));
+  Wide num = Wide::from_u128(mul(n, s2));
   num -= Wide::from_u128(mul(a1, a1));
   const long double var = num.to_long_double() / (static_cast<long double>(n) * static_cast<long double>(n - 1));
   const int e = sf < -128 ? -128 : (sf > 128 ? 128 : sf);
@@ -254,6 +253,7 @@ std::uint64_t int_norm(const Kel16s* a, const Kel16s* b, std::size_t n) {
     }
     return total;
   } else {
+    if (b == nullptr) return kk::sum_sq_i16(a, n);
     std::uint64_t total = 0;
     for (std::size_t i = 0; i < n; ++i) {
       const std::uint64_t m = mag(i);
@@ -350,16 +350,20 @@ KelStatus dot_family(const A* a, const B* b, int len, R* out, int sf) {
     constexpr bool kWide = sizeof(part_t<A>) == 4 || sizeof(part_t<B>) == 4;
     using Acc = std::conditional_t<kWide, Wide, std::int64_t>;
     Acc re = std::int64_t{0}, im = std::int64_t{0};
-    for (std::size_t i = 0; i < n; ++i) {
-      const std::int64_t ar = pa[width<A> * i], br = pb[width<B> * i];
-      re += ar * br;
-      if constexpr (is_complex<B>) {
-        const std::int64_t bi = pb[2 * i + 1];
-        im += ar * bi;
-        if constexpr (is_complex<A>) {
-          const std::int64_t ai = pa[2 * i + 1];
-          re -= ai * bi;
-          im += ai * br;
+    if constexpr (std::is_same_v<A, Kel16s> && std::is_same_v<B, Kel16s>) {
+      re = kk::dot_i16(pa, pb, n);
+    } else {
+      for (std::size_t i = 0; i < n; ++i) {
+        const std::int64_t ar = pa[width<A> * i], br = pb[width<B> * i];
+        re += ar * br;
+        if constexpr (is_complex<B>) {
+          const std::int64_t bi = pb[2 * i + 1];
+          im += ar * bi;
+          if constexpr (is_complex<A>) {
+            const std::int64_t ai = pa[2 * i + 1];
+            re -= ai * bi;
+            im += ai * br;
+          }
         }
       }
     }

@@ -119,6 +119,39 @@ TEST(StatsKernels, FloatReductionsMatchTwins) {
   });
 }
 
+// Exact 16-bit sums: random data and the extreme pairs that overflow a
+// 32-bit pairwise sum (-32768 * -32768 twice), over lengths that cross the
+// 32-bit block of the sum kernel on every target.
+TEST(StatsKernels, IntegerSumsMatchTwins) {
+  std::mt19937 rng(3);
+  for_each_target([&](const std::string& target) {
+    auto lengths = sweep_lengths({64});
+    lengths.push_back(600001);
+    for (const int len : lengths) {
+      const std::size_t n = static_cast<std::size_t>(len);
+      for (int fill = 0; fill < 3; ++fill) {
+        auto a = random_vector<std::int16_t>(2 * n + 1, rng), b = random_vector<std::int16_t>(2 * n + 1, rng);
+        if (fill > 0) {
+          for (auto& x : a) x = -32768;
+          for (auto& x : b) x = fill == 1 ? -32768 : 32767;
+        }
+        const std::string at = target + " n=" + std::to_string(n) + " fill=" + std::to_string(fill);
+        for (const std::size_t off : {std::size_t{0}, std::size_t{1}}) {
+          for (const std::size_t stride : {1u, 2u}) {
+            std::int64_t g[2] = {0, 0}, w[2] = {0, 0};
+            kk::sums_i16(a.data() + off, n * stride, stride, g);
+            kk::scalar::sums_i16(a.data() + off, n * stride, stride, w);
+            ASSERT_EQ(g[0], w[0]) << at;
+            ASSERT_EQ(g[1], w[1]) << at;
+          }
+          ASSERT_EQ(kk::sum_sq_i16(a.data() + off, n), kk::scalar::sum_sq_i16(a.data() + off, n)) << at;
+          ASSERT_EQ(kk::dot_i16(a.data() + off, b.data(), n), kk::scalar::dot_i16(a.data() + off, b.data(), n)) << at;
+        }
+      }
+    }
+  });
+}
+
 // Extremes: exact agreement, with the extreme value planted twice at every
 // pair of positions of a vector-sized window so that the first occurrence
 // must win whatever lane it falls in.
