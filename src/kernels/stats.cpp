@@ -155,40 +155,13 @@ double DotRRT(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, size_t n) {
 #endif
 }
 
-// Real a (n scalars) times complex b (n pairs).
-template <class T>
-void DotRCT(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, size_t n, double* out) {
+// Complex b (n pairs) times real a (n scalars) or complex a (n pairs).
+template <bool kComplexA, class T>
+void DotCT(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, size_t n, double* out) {
+  const size_t a_step = kComplexA ? 2 : 1;
 #if HWY_TARGET == HWY_SCALAR
-  scalar::dot_rc(a, b, n, out);
-#else
-  const hn::ScalableTag<T> d;
-  const DD dd;
-  const size_t N = hn::Lanes(d);
-  VD re[2] = {hn::Zero(dd), hn::Zero(dd)}, im[2] = {hn::Zero(dd), hn::Zero(dd)};
   size_t i = 0;
-  for (; i + N <= n; i += N) {
-    hn::Vec<decltype(d)> br, bi;
-    hn::LoadInterleaved2(d, b + 2 * i, br, bi);
-    VD wa[2], wr[2], wi[2];
-    Widen(hn::LoadU(d, a + i), wa);
-    Widen(br, wr);
-    Widen(bi, wi);
-    for (size_t k = 0; k < kParts<T>; ++k) {
-      re[k] = hn::MulAdd(wa[k], wr[k], re[k]);
-      im[k] = hn::MulAdd(wa[k], wi[k], im[k]);
-    }
-  }
-  double tail[2];
-  scalar::dot_rc(a + i, b + 2 * i, n - i, tail);
-  out[0] = SumLanesD(dd, hn::Add(re[0], re[1])) + tail[0];
-  out[1] = SumLanesD(dd, hn::Add(im[0], im[1])) + tail[1];
-#endif
-}
-
-template <class T>
-void DotCCT(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, size_t n, double* out) {
-#if HWY_TARGET == HWY_SCALAR
-  scalar::dot_cc(a, b, n, out);
+  double s[2] = {0, 0};
 #else
   const hn::ScalableTag<T> d;
   const DD dd;
@@ -197,31 +170,44 @@ void DotCCT(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, size_t n, double* 
   size_t i = 0;
   for (; i + N <= n; i += N) {
     hn::Vec<decltype(d)> ar, ai, br, bi;
-    hn::LoadInterleaved2(d, a + 2 * i, ar, ai);
+    if constexpr (kComplexA) {
+      hn::LoadInterleaved2(d, a + 2 * i, ar, ai);
+    } else {
+      ar = hn::LoadU(d, a + i);
+    }
     hn::LoadInterleaved2(d, b + 2 * i, br, bi);
     VD war[2], wai[2], wbr[2], wbi[2];
     Widen(ar, war);
-    Widen(ai, wai);
     Widen(br, wbr);
     Widen(bi, wbi);
+    if constexpr (kComplexA) Widen(ai, wai);
     for (size_t k = 0; k < kParts<T>; ++k) {
-      re[k] = hn::NegMulAdd(wai[k], wbi[k], hn::MulAdd(war[k], wbr[k], re[k]));
-      im[k] = hn::MulAdd(wai[k], wbr[k], hn::MulAdd(war[k], wbi[k], im[k]));
+      re[k] = hn::MulAdd(war[k], wbr[k], re[k]);
+      im[k] = hn::MulAdd(war[k], wbi[k], im[k]);
+      if constexpr (kComplexA) {
+        re[k] = hn::NegMulAdd(wai[k], wbi[k], re[k]);
+        im[k] = hn::MulAdd(wai[k], wbr[k], im[k]);
+      }
     }
   }
-  double tail[2];
-  scalar::dot_cc(a + 2 * i, b + 2 * i, n - i, tail);
-  out[0] = SumLanesD(dd, hn::Add(re[0], re[1])) + tail[0];
-  out[1] = SumLanesD(dd, hn::Add(im[0], im[1])) + tail[1];
+  const double s[2] = {SumLanesD(dd, hn::Add(re[0], re[1])), SumLanesD(dd, hn::Add(im[0], im[1]))};
 #endif
+  double tail[2];
+  if constexpr (kComplexA) {
+    scalar::dot_cc(a + a_step * i, b + 2 * i, n - i, tail);
+  } else {
+    scalar::dot_rc(a + a_step * i, b + 2 * i, n - i, tail);
+  }
+  out[0] = s[0] + tail[0];
+  out[1] = s[1] + tail[1];
 }
 
 double DotRRF32(const float* a, const float* b, size_t n) { return DotRRT(a, b, n); }
 double DotRRF64(const double* a, const double* b, size_t n) { return DotRRT(a, b, n); }
-void DotRCF32(const float* a, const float* b, size_t n, double* o) { DotRCT(a, b, n, o); }
-void DotRCF64(const double* a, const double* b, size_t n, double* o) { DotRCT(a, b, n, o); }
-void DotCCF32(const float* a, const float* b, size_t n, double* o) { DotCCT(a, b, n, o); }
-void DotCCF64(const double* a, const double* b, size_t n, double* o) { DotCCT(a, b, n, o); }
+void DotRCF32(const float* a, const float* b, size_t n, double* o) { DotCT<false>(a, b, n, o); }
+void DotRCF64(const double* a, const double* b, size_t n, double* o) { DotCT<false>(a, b, n, o); }
+void DotCCF32(const float* a, const float* b, size_t n, double* o) { DotCT<true>(a, b, n, o); }
+void DotCCF64(const double* a, const double* b, size_t n, double* o) { DotCT<true>(a, b, n, o); }
 
 // ---- Norms: x = a or a - b in double; |x| per scalar or per pair.
 

@@ -80,12 +80,17 @@ KelStatus sum_int(const T* src, int len, R* out, int sf) {
   return kelStsOk;
 }
 
-template <class T>
+// Sum (kMean false) or mean of float data; the mean divides the sum in
+// the precision it was accumulated in, before the one rounding.
+template <bool kMean, class T>
 KelStatus sum_float(const T* src, int len, T* out, int hint) {
   KELS_REQUIRE_PTRS(src, out);
   KELS_REQUIRE_LEN(len);
   long double s[2] = {0, 0};
   float_sums(src, static_cast<std::size_t>(len), hint, s);
+  if (kMean) {
+    for (auto& v : s) v /= static_cast<long double>(len);
+  }
   put_parts(out, s);
   return kelStsOk;
 }
@@ -134,17 +139,6 @@ KelStatus mean_int(const T* src, int len, T* out, int sf) {
   std::int64_t s[2];
   int_sums(src, n, s);
   for (std::size_t c = 0; c < width<T>; ++c) scalars(out)[c] = mean_scaled<P>(s[c], n, sf);
-  return kelStsOk;
-}
-
-template <class T>
-KelStatus mean_float(const T* src, int len, T* out, int hint) {
-  KELS_REQUIRE_PTRS(src, out);
-  KELS_REQUIRE_LEN(len);
-  long double s[2] = {0, 0};
-  float_sums(src, static_cast<std::size_t>(len), hint, s);
-  for (auto& v : s) v /= static_cast<long double>(len);
-  put_parts(out, s);
   return kelStsOk;
 }
 
@@ -493,17 +487,17 @@ using namespace kels;
   }
 #define KELS_DEFINE_SUM_HINT(sfx, T)                                                            \
   KELS_EXPORT KelStatus kelsSum_##sfx(const T* pSrc, int len, T* pSum, int hint) {             \
-    return sum_float(pSrc, len, pSum, hint);                                                    \
+    return sum_float<false>(pSrc, len, pSum, hint);                                                    \
   }                                                                                             \
   KELS_EXPORT KelStatus kelsMean_##sfx(const T* pSrc, int len, T* pMean, int hint) {           \
-    return mean_float(pSrc, len, pMean, hint);                                                  \
+    return sum_float<true>(pSrc, len, pMean, hint);                                                  \
   }
 #define KELS_DEFINE_SUM(sfx, T)                                                                 \
   KELS_EXPORT KelStatus kelsSum_##sfx(const T* pSrc, int len, T* pSum) {                       \
-    return sum_float(pSrc, len, pSum, 0);                                                       \
+    return sum_float<false>(pSrc, len, pSum, 0);                                                       \
   }                                                                                             \
   KELS_EXPORT KelStatus kelsMean_##sfx(const T* pSrc, int len, T* pMean) {                     \
-    return mean_float(pSrc, len, pMean, 0);                                                     \
+    return sum_float<true>(pSrc, len, pMean, 0);                                                     \
   }
 #define KELS_DEFINE_MEAN_SFS(sfx, T)                                                            \
   KELS_EXPORT KelStatus kelsMean_##sfx(const T* pSrc, int len, T* pMean, int scaleFactor) {    \

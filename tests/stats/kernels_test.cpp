@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "kernels/stats.h"
+#include "stats_test_util.h"
 #include "support/targets.h"
 
 namespace kels::test {
@@ -20,15 +21,7 @@ namespace kk = kels::kernels;
 
 template <class T>
 std::vector<T> random_vector(std::size_t n, std::mt19937& rng, double lo = -1.0, double hi = 1.0) {
-  std::vector<T> v(n);
-  if constexpr (std::is_floating_point_v<T>) {
-    std::uniform_real_distribution<double> u(lo, hi);
-    for (auto& x : v) x = static_cast<T>(u(rng));
-  } else {
-    std::uniform_int_distribution<std::int64_t> u(std::numeric_limits<T>::min(), std::numeric_limits<T>::max());
-    for (auto& x : v) x = static_cast<T>(u(rng));
-  }
-  return v;
+  return random_data<T>(n, static_cast<unsigned>(rng()), lo, hi);
 }
 
 // Misalignments in elements of the data: aligned, one element, and an odd
