@@ -211,6 +211,52 @@ void DotCCF64(const double* a, const double* b, size_t n, double* o) { DotCT<tru
 
 // ---- Norms: x = a or a - b in double; |x| per scalar or per pair.
 
+#if HWY_TARGET != HWY_SCALAR
+// One step of a norm: N scalars (real) or N pairs (complex) from index i
+// folded into the accumulators, one per widened part.
+template <NormKind kKind, bool kComplex, class T>
+HWY_INLINE void NormStep(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, size_t i, VD* acc) {
+  const hn::ScalableTag<T> d;
+  VD m[2];  // |x| (real) or |x|^2 (complex) per widened part
+  if constexpr (kComplex) {
+    hn::Vec<decltype(d)> ar, ai;
+    hn::LoadInterleaved2(d, a + 2 * i, ar, ai);
+    VD xr[2], xi[2];
+    Widen(ar, xr);
+    Widen(ai, xi);
+    if (b != nullptr) {
+      hn::Vec<decltype(d)> br, bi;
+      hn::LoadInterleaved2(d, b + 2 * i, br, bi);
+      VD yr[2], yi[2];
+      Widen(br, yr);
+      Widen(bi, yi);
+      for (size_t k = 0; k < kParts<T>; ++k) {
+        xr[k] = hn::Sub(xr[k], yr[k]);
+        xi[k] = hn::Sub(xi[k], yi[k]);
+      }
+    }
+    // Unfused, as in the scalar twin, so that maxima agree exactly.
+    for (size_t k = 0; k < kParts<T>; ++k) m[k] = hn::Add(hn::Mul(xr[k], xr[k]), hn::Mul(xi[k], xi[k]));
+  } else {
+    Widen(hn::LoadU(d, a + i), m);
+    if (b != nullptr) {
+      VD y[2];
+      Widen(hn::LoadU(d, b + i), y);
+      for (size_t k = 0; k < kParts<T>; ++k) m[k] = hn::Sub(m[k], y[k]);
+    }
+  }
+  for (size_t k = 0; k < kParts<T>; ++k) {
+    if constexpr (kKind == NormKind::kInf) {
+      acc[k] = hn::Max(acc[k], kComplex ? m[k] : hn::Abs(m[k]));
+    } else if constexpr (kKind == NormKind::kL1) {
+      acc[k] = hn::Add(acc[k], kComplex ? hn::Sqrt(m[k]) : hn::Abs(m[k]));
+    } else {
+      acc[k] = kComplex ? hn::Add(acc[k], m[k]) : hn::MulAdd(m[k], m[k], acc[k]);
+    }
+  }
+}
+#endif
+
 template <NormKind kKind, bool kComplex, class T>
 double NormKT(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, size_t n) {
 #if HWY_TARGET == HWY_SCALAR
@@ -219,55 +265,23 @@ double NormKT(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, size_t n) {
   const hn::ScalableTag<T> d;
   const DD dd;
   const size_t N = hn::Lanes(d);
-  VD acc[2] = {hn::Zero(dd), hn::Zero(dd)};
-  // Elements consumed per step: N scalars (real) or N pairs (complex).
+  // Two steps per iteration into separate accumulators: four independent
+  // chains hide the latency of the adds.
+  VD acc[4] = {hn::Zero(dd), hn::Zero(dd), hn::Zero(dd), hn::Zero(dd)};
   size_t i = 0;
-  for (; i + N <= n; i += N) {
-    VD m[2];  // |x| (real) or |x|^2 (complex) per widened part
-    if constexpr (kComplex) {
-      hn::Vec<decltype(d)> ar, ai;
-      hn::LoadInterleaved2(d, a + 2 * i, ar, ai);
-      VD xr[2], xi[2];
-      Widen(ar, xr);
-      Widen(ai, xi);
-      if (b != nullptr) {
-        hn::Vec<decltype(d)> br, bi;
-        hn::LoadInterleaved2(d, b + 2 * i, br, bi);
-        VD yr[2], yi[2];
-        Widen(br, yr);
-        Widen(bi, yi);
-        for (size_t k = 0; k < kParts<T>; ++k) {
-          xr[k] = hn::Sub(xr[k], yr[k]);
-          xi[k] = hn::Sub(xi[k], yi[k]);
-        }
-      }
-      for (size_t k = 0; k < kParts<T>; ++k) m[k] = hn::Add(hn::Mul(xr[k], xr[k]), hn::Mul(xi[k], xi[k]));  // unfused, as the twin
-    } else {
-      Widen(hn::LoadU(d, a + i), m);
-      if (b != nullptr) {
-        VD y[2];
-        Widen(hn::LoadU(d, b + i), y);
-        for (size_t k = 0; k < kParts<T>; ++k) m[k] = hn::Sub(m[k], y[k]);
-      }
-    }
-    for (size_t k = 0; k < kParts<T>; ++k) {
-      if constexpr (kKind == NormKind::kInf) {
-        acc[k] = hn::Max(acc[k], kComplex ? m[k] : hn::Abs(m[k]));
-      } else if constexpr (kKind == NormKind::kL1) {
-        acc[k] = hn::Add(acc[k], kComplex ? hn::Sqrt(m[k]) : hn::Abs(m[k]));
-      } else {
-        acc[k] = kComplex ? hn::Add(acc[k], m[k]) : hn::MulAdd(m[k], m[k], acc[k]);
-      }
-    }
+  for (; i + 2 * N <= n; i += 2 * N) {
+    NormStep<kKind, kComplex>(a, b, i, acc);
+    NormStep<kKind, kComplex>(a, b, i + N, acc + 2);
   }
+  for (; i + N <= n; i += N) NormStep<kKind, kComplex>(a, b, i, acc);
   const size_t step = kComplex ? 2 : 1;
   const double tail = scalar::norm(a + step * i, b ? b + step * i : nullptr, n - i, kKind, kComplex);
   if constexpr (kKind == NormKind::kInf) {
-    double v = hn::GetLane(hn::MaxOfLanes(dd, hn::Max(acc[0], acc[1])));
+    double v = hn::GetLane(hn::MaxOfLanes(dd, hn::Max(hn::Max(acc[0], acc[1]), hn::Max(acc[2], acc[3]))));
     if (kComplex) v = std::sqrt(v);
     return v > tail ? v : tail;
   } else {
-    return SumLanesD(dd, hn::Add(acc[0], acc[1])) + tail;
+    return SumLanesD(dd, hn::Add(hn::Add(acc[0], acc[1]), hn::Add(acc[2], acc[3]))) + tail;
   }
 #endif
 }
@@ -434,14 +448,24 @@ void MinMaxKT(const T* HWY_RESTRICT p, size_t n, T* mn, T* mx) {
     if (kMin) l0 = hn::Min(l0, v);
     if (kMax) h0 = hn::Max(h0, v);
   }
-  alignas(64) T buf[kMaxLaneBytes / sizeof(T)];
-  if (kMin) {
-    hn::StoreU(hn::Min(hn::Min(l0, l1), hn::Min(l2, l3)), d, buf);
-    scalar::min_max(buf, N, mn, static_cast<T*>(nullptr));
-  }
-  if (kMax) {
-    hn::StoreU(hn::Max(hn::Max(h0, h1), hn::Max(h2, h3)), d, buf);
-    scalar::min_max(buf, N, static_cast<T*>(nullptr), mx);
+  const auto l = hn::Min(hn::Min(l0, l1), hn::Min(l2, l3));
+  const auto h = hn::Max(hn::Max(h0, h1), hn::Max(h2, h3));
+  if constexpr (sizeof(T) == 1) {
+    // No cross-lane reduction of bytes on the wide targets: store and scan.
+    alignas(64) T buf[HWY_MAX_BYTES];
+    if (kMin) {
+      hn::StoreU(l, d, buf);
+      scalar::min_max(buf, N, mn, static_cast<T*>(nullptr));
+    }
+    if (kMax) {
+      hn::StoreU(h, d, buf);
+      scalar::min_max(buf, N, static_cast<T*>(nullptr), mx);
+    }
+  } else {
+    // Reduction trees across the lanes (a store and scalar scan would cost
+    // more than the whole loop at short lengths).
+    if (kMin) *mn = hn::GetLane(hn::MinOfLanes(d, l));
+    if (kMax) *mx = hn::GetLane(hn::MaxOfLanes(d, h));
   }
 }
 
