@@ -6,6 +6,7 @@
 #define HWY_TARGET_INCLUDE "kernels/stats.cpp"
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
 #include "hwy/highway.h"
+#include "hwy/cache_control.h"
 
 #include <type_traits>
 
@@ -18,6 +19,19 @@ namespace hn = hwy::HWY_NAMESPACE;
 
 // Room for four vectors of any lane type on any target.
 constexpr size_t kMaxLaneBytes = 4 * HWY_MAX_BYTES;
+
+// Widening to double costs enough instructions per cache line that the
+// out-of-order window alone no longer keeps enough misses in flight to
+// stream from memory; the widening kernels request the lines of the
+// iteration kAheadBytes in advance.
+constexpr size_t kAheadBytes = 4096;
+template <class T>
+HWY_INLINE void PrefetchAhead(const T* p, size_t i, size_t scalars) {
+  // Integer arithmetic: the address may lie past the end of the data, which
+  // a prefetch tolerates but pointer arithmetic would not.
+  const uintptr_t c = reinterpret_cast<uintptr_t>(p + i) + kAheadBytes;
+  for (size_t k = 0; k < scalars * sizeof(T); k += 64) hwy::Prefetch(reinterpret_cast<const uint8_t*>(c + k));
+}
 
 #if HWY_TARGET != HWY_SCALAR
 
@@ -106,6 +120,7 @@ void SumSqF32(const float* HWY_RESTRICT p, size_t n, double* s1, double* s2) {
   VD a0 = hn::Zero(dd), a1 = hn::Zero(dd), q0 = hn::Zero(dd), q1 = hn::Zero(dd);
   size_t i = 0;
   for (; i + N <= n; i += N) {
+    PrefetchAhead(p, i, N);
     VD w[2];
     Widen(hn::LoadU(df, p + i), w);
     a0 = hn::Add(a0, w[0]);
@@ -134,6 +149,8 @@ double DotRRT(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, size_t n) {
   VD acc2[2] = {hn::Zero(dd), hn::Zero(dd)};
   size_t i = 0;
   for (; i + 2 * N <= n; i += 2 * N) {
+    PrefetchAhead(a, i, 2 * N);
+    PrefetchAhead(b, i, 2 * N);
     VD wa[2], wb[2], wc[2], we[2];
     Widen(hn::LoadU(d, a + i), wa);
     Widen(hn::LoadU(d, b + i), wb);
@@ -169,6 +186,8 @@ void DotCT(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, size_t n, double* o
   VD re[2] = {hn::Zero(dd), hn::Zero(dd)}, im[2] = {hn::Zero(dd), hn::Zero(dd)};
   size_t i = 0;
   for (; i + N <= n; i += N) {
+    PrefetchAhead(a, a_step * i, a_step * N);
+    PrefetchAhead(b, 2 * i, 2 * N);
     hn::Vec<decltype(d)> ar, ai, br, bi;
     if constexpr (kComplexA) {
       hn::LoadInterleaved2(d, a + 2 * i, ar, ai);
@@ -265,23 +284,38 @@ double NormKT(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, size_t n) {
   const hn::ScalableTag<T> d;
   const DD dd;
   const size_t N = hn::Lanes(d);
-  // Two steps per iteration into separate accumulators: four independent
-  // chains hide the latency of the adds.
-  VD acc[4] = {hn::Zero(dd), hn::Zero(dd), hn::Zero(dd), hn::Zero(dd)};
+  // Four steps per iteration into separate accumulators: eight independent
+  // chains hide the latency of the adds and keep enough loads in flight to
+  // stream from memory.
+  VD acc[8];
+  for (auto& v : acc) v = hn::Zero(dd);
+  const size_t step = kComplex ? 2 : 1;  // scalars per element
   size_t i = 0;
-  for (; i + 2 * N <= n; i += 2 * N) {
+  for (; i + 4 * N <= n; i += 4 * N) {
+    PrefetchAhead(a, step * i, 4 * N * step);
+    if (b != nullptr) PrefetchAhead(b, step * i, 4 * N * step);
     NormStep<kKind, kComplex>(a, b, i, acc);
     NormStep<kKind, kComplex>(a, b, i + N, acc + 2);
+    NormStep<kKind, kComplex>(a, b, i + 2 * N, acc + 4);
+    NormStep<kKind, kComplex>(a, b, i + 3 * N, acc + 6);
+  }
+  for (size_t k = 2; k < 8; k += 2) {
+    if constexpr (kKind == NormKind::kInf) {
+      acc[0] = hn::Max(acc[0], acc[k]);
+      acc[1] = hn::Max(acc[1], acc[k + 1]);
+    } else {
+      acc[0] = hn::Add(acc[0], acc[k]);
+      acc[1] = hn::Add(acc[1], acc[k + 1]);
+    }
   }
   for (; i + N <= n; i += N) NormStep<kKind, kComplex>(a, b, i, acc);
-  const size_t step = kComplex ? 2 : 1;
   const double tail = scalar::norm(a + step * i, b ? b + step * i : nullptr, n - i, kKind, kComplex);
   if constexpr (kKind == NormKind::kInf) {
-    double v = hn::GetLane(hn::MaxOfLanes(dd, hn::Max(hn::Max(acc[0], acc[1]), hn::Max(acc[2], acc[3]))));
+    double v = hn::GetLane(hn::MaxOfLanes(dd, hn::Max(acc[0], acc[1])));
     if (kComplex) v = std::sqrt(v);
     return v > tail ? v : tail;
   } else {
-    return SumLanesD(dd, hn::Add(hn::Add(acc[0], acc[1]), hn::Add(acc[2], acc[3]))) + tail;
+    return SumLanesD(dd, hn::Add(acc[0], acc[1])) + tail;
   }
 #endif
 }
