@@ -17,17 +17,20 @@ int len_of(const Buffer<T>& b) {
   return static_cast<int>(b.size());
 }
 
-// ---- Read bandwidth probe.
+// ---- Read bandwidth probe over n elements of T (the same bytes as the
+// kernel it is compared with: caches make the size matter).
+template <class T>
 void BM_ReadBandwidth(benchmark::State& st) {
   const std::size_t n = static_cast<std::size_t>(st.range(0));
-  Buffer<Kel32f> a(n);
+  Buffer<T> a(n);
   const auto* w = reinterpret_cast<const std::uint64_t*>(a.data());
+  const std::size_t words = n * sizeof(T) / sizeof(std::uint64_t);
   for (auto _ : st) {
     std::uint64_t x = 0;
-    for (std::size_t i = 0; i < n / 2; ++i) x ^= w[i];
+    for (std::size_t i = 0; i < words; ++i) x ^= w[i];
     benchmark::DoNotOptimize(x);
   }
-  kels::bench::set_bytes(st, n * sizeof(Kel32f));
+  kels::bench::set_bytes(st, n * sizeof(T));
 }
 
 // ---- Sum_32f: fast and accurate hints against a float loop.
@@ -168,7 +171,8 @@ void BM_NormL2_32f_loop(benchmark::State& st) {
 
 }  // namespace
 
-BENCHMARK(BM_ReadBandwidth)->Apply(kels::bench::standard_sizes);
+BENCHMARK_TEMPLATE(BM_ReadBandwidth, Kel32f)->Apply(kels::bench::standard_sizes);
+BENCHMARK_TEMPLATE(BM_ReadBandwidth, Kel16s)->Apply(kels::bench::standard_sizes);
 BENCHMARK(BM_Sum32f_kels_fast)->Apply(kels::bench::standard_sizes);
 BENCHMARK(BM_Sum32f_kels_accurate)->Apply(kels::bench::standard_sizes);
 BENCHMARK(BM_Sum32f_loop)->Apply(kels::bench::standard_sizes);
