@@ -25,6 +25,8 @@ constexpr size_t kMaxLaneBytes = 4 * HWY_MAX_BYTES;
 // stream from memory; the widening kernels request the lines of the
 // iteration kAheadBytes in advance.
 constexpr size_t kAheadBytes = 4096;
+// From this many elements (beyond the caches) the norms read two streams.
+constexpr size_t kTwoStreamMin = size_t{1} << 18;
 template <class T>
 HWY_INLINE void PrefetchAhead(const T* p, size_t i, size_t scalars) {
   // Integer arithmetic: the address may lie past the end of the data, which
@@ -291,6 +293,22 @@ double NormKT(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, size_t n) {
   for (auto& v : acc) v = hn::Zero(dd);
   const size_t step = kComplex ? 2 : 1;  // scalars per element
   size_t i = 0;
+  // Long vectors are read as two halves side by side: two sequential
+  // streams keep more memory requests in flight than one.
+  const size_t half = n >= kTwoStreamMin ? (n / 2) / (2 * N) * (2 * N) : 0;
+  for (size_t j = 0; j < half; j += 2 * N) {
+    PrefetchAhead(a, step * j, 2 * N * step);
+    PrefetchAhead(a, step * (half + j), 2 * N * step);
+    if (b != nullptr) {
+      PrefetchAhead(b, step * j, 2 * N * step);
+      PrefetchAhead(b, step * (half + j), 2 * N * step);
+    }
+    NormStep<kKind, kComplex>(a, b, j, acc);
+    NormStep<kKind, kComplex>(a, b, j + N, acc + 2);
+    NormStep<kKind, kComplex>(a, b, half + j, acc + 4);
+    NormStep<kKind, kComplex>(a, b, half + j + N, acc + 6);
+  }
+  i = 2 * half;
   for (; i + 4 * N <= n; i += 4 * N) {
     PrefetchAhead(a, step * i, 4 * N * step);
     if (b != nullptr) PrefetchAhead(b, step * i, 4 * N * step);

@@ -112,6 +112,37 @@ TEST(StatsKernels, FloatReductionsMatchTwins) {
   });
 }
 
+// Long vectors take the two-stream path of the norms.
+TEST(StatsKernels, LongNormsMatchTwins) {
+  std::mt19937 rng(13);
+  for_each_target([&](const std::string& target) {
+    for (const std::size_t n : {std::size_t{1} << 18, (std::size_t{1} << 18) + 37, std::size_t{300001}}) {
+      const auto a = random_vector<float>(2 * n, rng), b = random_vector<float>(2 * n, rng);
+      const auto c = random_vector<double>(2 * n, rng), e = random_vector<double>(2 * n, rng);
+      for (const auto kind : {kk::NormKind::kInf, kk::NormKind::kL1, kk::NormKind::kL2Sqr}) {
+        for (const bool cplx : {false, true}) {
+          for (const bool diff : {false, true}) {
+            const std::string what = target + " n=" + std::to_string(n) + " kind=" +
+                                     std::to_string(static_cast<int>(kind)) + " c=" + std::to_string(cplx) +
+                                     " d=" + std::to_string(diff);
+            const double g = kk::norm(a.data(), diff ? b.data() : nullptr, n, kind, cplx);
+            const double r = kk::scalar::norm(a.data(), diff ? b.data() : nullptr, n, kind, cplx);
+            const double g64 = kk::norm(c.data(), diff ? e.data() : nullptr, n, kind, cplx);
+            const double r64 = kk::scalar::norm(c.data(), diff ? e.data() : nullptr, n, kind, cplx);
+            if (kind == kk::NormKind::kInf) {
+              EXPECT_EQ(g, r) << what;
+              EXPECT_EQ(g64, r64) << what;
+            } else {
+              expect_close(g, r, 8.0 * n, n, what);
+              expect_close(g64, r64, 8.0 * n, n, what);
+            }
+          }
+        }
+      }
+    }
+  });
+}
+
 // Exact 16-bit sums: random data and the extreme pairs that overflow a
 // 32-bit pairwise sum (-32768 * -32768 twice), over lengths that cross the
 // 32-bit block of the sum kernel on every target.
