@@ -25,7 +25,8 @@ constexpr size_t kMaxLaneBytes = 4 * HWY_MAX_BYTES;
 // stream from memory; the widening kernels request the lines of the
 // iteration kAheadBytes in advance.
 constexpr size_t kAheadBytes = 4096;
-// From this many elements (beyond the caches) the norms read two streams.
+// From this many elements (beyond the caches) the norms and extremes read
+// two streams.
 constexpr size_t kTwoStreamMin = size_t{1} << 18;
 template <class T>
 HWY_INLINE void PrefetchAhead(const T* p, size_t i, size_t scalars) {
@@ -479,6 +480,26 @@ void MinMaxKT(const T* HWY_RESTRICT p, size_t n, T* mn, T* mx) {
   auto l0 = first, l1 = first, l2 = first, l3 = first;
   auto h0 = first, h1 = first, h2 = first, h3 = first;
   size_t i = N;
+  // Long vectors as two streams (the second half beside the first), as in
+  // the norms; the loop below then finishes from 2 * half.
+  const size_t half = n >= kTwoStreamMin ? (n / 2) / (2 * N) * (2 * N) : 0;
+  for (size_t j = 0; j < half; j += 2 * N) {
+    const auto v0 = hn::LoadU(d, p + j), v1 = hn::LoadU(d, p + j + N);
+    const auto v2 = hn::LoadU(d, p + half + j), v3 = hn::LoadU(d, p + half + j + N);
+    if (kMin) {
+      l0 = hn::Min(l0, v0);
+      l1 = hn::Min(l1, v1);
+      l2 = hn::Min(l2, v2);
+      l3 = hn::Min(l3, v3);
+    }
+    if (kMax) {
+      h0 = hn::Max(h0, v0);
+      h1 = hn::Max(h1, v1);
+      h2 = hn::Max(h2, v2);
+      h3 = hn::Max(h3, v3);
+    }
+  }
+  if (half != 0) i = 2 * half;
   for (; i + 4 * N <= n; i += 4 * N) {
     const auto v0 = hn::LoadU(d, p + i), v1 = hn::LoadU(d, p + i + N);
     const auto v2 = hn::LoadU(d, p + i + 2 * N), v3 = hn::LoadU(d, p + i + 3 * N);

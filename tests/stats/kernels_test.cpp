@@ -143,6 +143,30 @@ TEST(StatsKernels, LongNormsMatchTwins) {
   });
 }
 
+// Long vectors take the two-stream path of min/max too; the planted
+// extremes sit in either half and in the remainder.
+TEST(StatsKernels, LongExtremesMatchTwins) {
+  std::mt19937 rng(17);
+  for_each_target([&](const std::string& target) {
+    for (const std::size_t n : {std::size_t{1} << 18, std::size_t{300001}}) {
+      auto v = random_vector<std::int16_t>(n, rng);
+      for (auto& x : v) x = static_cast<std::int16_t>(x / 2);
+      for (const std::size_t at : {std::size_t{5}, n / 2 + 3, n - 1}) {
+        auto w = v;
+        w[at] = 32767;
+        w[(at + n / 3) % n] = -32768;
+        std::int16_t mn, mx, tmn, tmx;
+        kk::min_max(w.data(), n, &mn, &mx);
+        kk::scalar::min_max(w.data(), n, &tmn, &tmx);
+        EXPECT_EQ(mn, tmn) << target << " " << n << " " << at;
+        EXPECT_EQ(mx, tmx) << target << " " << n << " " << at;
+        EXPECT_EQ(mx, 32767);
+        EXPECT_EQ(mn, -32768);
+      }
+    }
+  });
+}
+
 // Exact 16-bit sums: random data and the extreme pairs that overflow a
 // 32-bit pairwise sum (-32768 * -32768 twice), over lengths that cross the
 // 32-bit block of the sum kernel on every target.
