@@ -84,6 +84,8 @@ void index_extremes(Src& src, std::size_t n, Found<V>* lo, Found<V>* hi) {
   if (hi) *hi = h;
 }
 
+// Max, Min and MinMax without indices: the caller passes null for the
+// result it does not return (MinMax checks both of its pointers first).
 template <class T>
 KelStatus max_min(const T* src, int len, T* mn, T* mx) {
   KELS_REQUIRE_PTRS(src);
