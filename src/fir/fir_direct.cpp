@@ -83,6 +83,25 @@ Data direct_sum(const Tap* taps, int L, const Data* x, int sf, int factor) {
   }
 }
 
+// Four consecutive single-precision outputs whose spans start at x, x+1,
+// x+2, x+3: the same sums as direct_sum, with four independent
+// extended-precision accumulators so their additions overlap.
+void direct_sum4_32f(const Kel32f* taps, int L, const Kel32f* x, Kel32f* y) {
+  long double a0 = 0, a1 = 0, a2 = 0, a3 = 0;
+  for (int k = 0; k < L; ++k) {
+    const float t = taps[L - 1 - k];
+    const float p0 = t * x[k], p1 = t * x[k + 1], p2 = t * x[k + 2], p3 = t * x[k + 3];
+    a0 += p0;
+    a1 += p1;
+    a2 += p2;
+    a3 += p3;
+  }
+  y[0] = static_cast<Kel32f>(a0);
+  y[1] = static_cast<Kel32f>(a1);
+  y[2] = static_cast<Kel32f>(a2);
+  y[3] = static_cast<Kel32f>(a3);
+}
+
 template <class Tap, class Data>
 void direct_run(const Data* src, Data* dst, int n, const Tap* taps, int L, Data* d, int* index, int sf,
                 int factor) {
@@ -101,6 +120,34 @@ void direct_run(const Data* src, Data* dst, int n, const Tap* taps, int L, Data*
 // Every form tests it, so no call can write outside the caller's 2*tapsLen
 // delay line.
 inline bool bad_index(const int* index, int L) { return *index < 0 || *index >= L; }
+
+// Block of the caller-held form. Out of place, the outputs whose span lies
+// wholly in the block (j >= L-1) are read straight from the input, as the
+// same sums the one-sample step would form, and the delay line then receives
+// the last L inputs in the slots the steps would have used; in place (or for
+// the first L-1 samples) the one-sample step runs sample by sample.
+template <class Tap, class Data>
+void direct_block_run(const Data* src, Data* dst, int n, const Tap* taps, int L, Data* d, int* index, int sf,
+                      int factor) {
+  const int head = n < L - 1 ? n : L - 1;
+  if (src == dst || head == n) {
+    direct_run(src, dst, n, taps, L, d, index, sf, factor);
+    return;
+  }
+  const int i0 = *index;
+  direct_run(src, dst, head, taps, L, d, index, sf, factor);
+  int j = head;
+  if constexpr (std::is_same_v<Tap, Kel32f> && std::is_same_v<Data, Kel32f>) {
+    for (; j + 4 <= n; j += 4) direct_sum4_32f(taps, L, src + (j - L + 1), dst + j);
+  }
+  for (; j < n; ++j) dst[j] = direct_sum(taps, L, src + (j - L + 1), sf, factor);
+  for (j = n - L > head ? n - L : head; j < n; ++j) {
+    const int slot = static_cast<int>((static_cast<std::int64_t>(i0) + j) % L);
+    d[slot] = src[j];
+    d[slot + L] = src[j];
+  }
+  *index = static_cast<int>((static_cast<std::int64_t>(i0) + n) % L);
+}
 
 template <class Tap, class Data>
 KelStatus one_direct(Data src, Data* dst, const Tap* taps, int L, Data* d, int* index, int sf, int factor) {
@@ -121,7 +168,7 @@ KelStatus block_direct(const Data* src, Data* dst, int n, const Tap* taps, int L
   if (L < 1) return kelStsBadFIRLength;
   KELS_REQUIRE_PTRS(d, index);
   if (bad_index(index, L)) return kelStsBadDelayIndex;
-  direct_run(src, dst, n, taps, L, d, index, sf, factor);
+  direct_block_run(src, dst, n, taps, L, d, index, sf, factor);
   return kelStsOk;
 }
 

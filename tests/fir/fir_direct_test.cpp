@@ -3,6 +3,7 @@
 // come in the documented order.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <vector>
 
@@ -105,7 +106,7 @@ TYPED_TEST(FirDirect, FourFormsAgree) {
   std::mt19937 g(31);
   for (int L : {1, 2, 5, 16, 33}) {
     const auto taps = random_taps<typename A::Tap>(L, g);
-    const int n = 3 * L + 7;
+    for (int n : {1, std::max(1, L - 1), L, L + 1, L + 4, 3 * L + 7}) {
     const auto x = random_data<Data>(n, g);
     // Four delay lines, identical, with a non-zero start index.
     const auto d0 = random_data<Data>(L, g);
@@ -126,6 +127,7 @@ TYPED_TEST(FirDirect, FourFormsAgree) {
     EXPECT_TRUE(same_vec(da, db) && same_vec(da, dc) && same_vec(da, dd));
     EXPECT_EQ(ia, (L / 2 + n) % L);
     EXPECT_TRUE(ia == ib && ia == ic && ia == id);
+    }
   }
 }
 
