@@ -33,32 +33,31 @@ void finish(benchmark::State& st, int n) {
   st.SetItemsProcessed(static_cast<std::int64_t>(st.iterations()) * n);
 }
 
-void BM_FIR_32f(benchmark::State& st) {
-  OneThread one;
-  const int n = static_cast<int>(st.range(0)), L = static_cast<int>(st.range(1));
-  Buffer<Kel32f> taps(L), x(n), y(n);
-  KelsFIRState_32f* s = nullptr;
-  kelsFIRInitAlloc_32f(&s, taps.data(), L, nullptr);
+// A block filter on an InitAlloc record.
+template <class T, class S, KelStatus (*Init)(S**, const T*, int, const T*),
+          KelStatus (*Run)(const T*, T*, int, S*), KelStatus (*Release)(S*)>
+void run_state(benchmark::State& st, int n, int L) {
+  Buffer<T> taps(static_cast<std::size_t>(L)), x(static_cast<std::size_t>(n)), y(static_cast<std::size_t>(n));
+  S* s = nullptr;
+  Init(&s, taps.data(), L, nullptr);
   for (auto _ : st) {
-    kelsFIR_32f(x.data(), y.data(), n, s);
+    Run(x.data(), y.data(), n, s);
     benchmark::DoNotOptimize(y.data());
   }
-  kelsFIRFree_32f(s);
+  Release(s);
   finish(st, n);
+}
+
+void BM_FIR_32f(benchmark::State& st) {
+  OneThread one;
+  run_state<Kel32f, KelsFIRState_32f, kelsFIRInitAlloc_32f, kelsFIR_32f, kelsFIRFree_32f>(
+      st, static_cast<int>(st.range(0)), static_cast<int>(st.range(1)));
 }
 
 void BM_FIR_32fc(benchmark::State& st) {
   OneThread one;
-  const int n = static_cast<int>(st.range(0)), L = static_cast<int>(st.range(1));
-  Buffer<Kel32fc> taps(L), x(n), y(n);
-  KelsFIRState_32fc* s = nullptr;
-  kelsFIRInitAlloc_32fc(&s, taps.data(), L, nullptr);
-  for (auto _ : st) {
-    kelsFIR_32fc(x.data(), y.data(), n, s);
-    benchmark::DoNotOptimize(y.data());
-  }
-  kelsFIRFree_32fc(s);
-  finish(st, n);
+  run_state<Kel32fc, KelsFIRState_32fc, kelsFIRInitAlloc_32fc, kelsFIR_32fc, kelsFIRFree_32fc>(
+      st, static_cast<int>(st.range(0)), static_cast<int>(st.range(1)));
 }
 
 void BM_FIR_Direct_32f(benchmark::State& st) {
@@ -170,16 +169,7 @@ BENCHMARK(BM_FIR_32f_fftw_ols)->Apply(args);
 // parallel region above 160000 samples).
 void BM_FIR_32f_threads(benchmark::State& st) {
   OneThread team(static_cast<int>(st.range(0)));
-  const int n = 1000000, L = 128;
-  Buffer<Kel32f> taps(L), x(n), y(n);
-  KelsFIRState_32f* s = nullptr;
-  kelsFIRInitAlloc_32f(&s, taps.data(), L, nullptr);
-  for (auto _ : st) {
-    kelsFIR_32f(x.data(), y.data(), n, s);
-    benchmark::DoNotOptimize(y.data());
-  }
-  kelsFIRFree_32f(s);
-  finish(st, n);
+  run_state<Kel32f, KelsFIRState_32f, kelsFIRInitAlloc_32f, kelsFIR_32f, kelsFIRFree_32f>(st, 1000000, 128);
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ void compare(Kernel kernel, Twin twin, std::size_t width) {
   for_each_target([&](const std::string& target) {
     for (std::size_t L : {1, 2, 3, 5, 8, 17, 64}) {
       for (int count : sweep_lengths({1000})) {
-        for (std::size_t off : {0, 4}) {
+        for (std::size_t off : {std::size_t{0}, sizeof(T)}) {  // element-aligned, not vector-aligned
           const std::size_t nx = (static_cast<std::size_t>(count) + L - 1) * width;
           Guarded<T> x(nx, off), y(static_cast<std::size_t>(count) * width, off), z(static_cast<std::size_t>(count) * width);
           std::vector<T> t(L * width);

@@ -534,7 +534,7 @@ TEST(FirIntTaps, NormaliseLargestTapAndFactor) {
   ASSERT_EQ(kelsFIROne32s_16s_Sfs(-3, &y, s, 16), kelStsOk);  // (17500*-3 + -2*1) * 8 / 65536 = -6.408 -> -6
   EXPECT_EQ(y, -6);
 
-  const Kel32s extreme[2] = {INT32_MIN, 32766};
+  const Kel32s extreme[4] = {INT32_MIN, 32766, 0, 0};  // the record keeps its 4 taps
   ASSERT_EQ(kelsFIRSetTaps32s_16s(extreme, s, -4), kelStsOk);
   ASSERT_EQ(kelsFIRGetTaps32s_16s(s, got, &factor), kelStsOk);
   EXPECT_EQ(factor, 13);  // 2^31 >> 17 = 16384
