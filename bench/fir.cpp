@@ -180,3 +180,4 @@ BENCHMARK(BM_FIR_32fc)->Apply(args);
 BENCHMARK(BM_FIR_32fc_plain)->Apply(args);
 BENCHMARK(BM_FIR_Direct_32f)->Apply(args);
 BENCHMARK(BM_FIR_32f_threads)->Arg(1)->Arg(2)->UseRealTime();
+BENCHMARK_MAIN();
