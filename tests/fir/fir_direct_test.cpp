@@ -298,6 +298,29 @@ TEST(FirDirectFactor, FollowsTheShiftRule) {
   EXPECT_EQ(one(5, 1 << 14, -16, -1), 2);        // shift -15: the same
 }
 
+// The complex integer-taps form applies the shift rule to each part of the
+// wrapped complex sum.
+TEST(FirDirectFactor, ComplexPartsFollowTheShiftRule) {
+  auto one = [](Kel32sc tap, Kel16sc x, int factor, int sf) {
+    Kel16sc d[2] = {}, y{};
+    int i = 0;
+    EXPECT_EQ(kelsFIROne32sc_Direct_16sc_Sfs(x, &y, &tap, 1, factor, d, &i, sf), kelStsOk);
+    return y;
+  };
+  Kel16sc y = one({1, 2}, {3, 4}, 0, 0);  // (1+2i)(3+4i) = -5 + 10i
+  EXPECT_EQ(y.re, -5);
+  EXPECT_EQ(y.im, 10);
+  y = one({1, 2}, {3, 4}, -1, 0);  // -2.5 -> -2, 5
+  EXPECT_EQ(y.re, -2);
+  EXPECT_EQ(y.im, 5);
+  y = one({1, 2}, {3, 4}, 0, -13);  // shift 13: -40960 and 81920 saturate
+  EXPECT_EQ(y.re, -32768);
+  EXPECT_EQ(y.im, 32767);
+  y = one({1 << 20, 0}, {4096, 4096}, 0, 0);  // products 2^32 wrap to 0
+  EXPECT_EQ(y.re, 0);
+  EXPECT_EQ(y.im, 0);
+}
+
 TEST(FirDirect32f, SumsSingleProductsInExtendedPrecision) {
   const float big = 16777216.0f;
   const Kel32f taps[5] = {1, 1, 1, 1, 1};
