@@ -170,8 +170,9 @@ KelStatus filter_block(Record* r, const data_t<M>* src, data_t<M>* dst, int n, i
   return kelStsOk;
 }
 
-// In place: the direct method reads inputs after writing earlier outputs, so
-// each piece of the block is first copied to the record's work area.
+// In place (the _I twins, and the out-of-place entry points given the same
+// array twice): the direct method reads inputs after writing earlier outputs,
+// so each piece of the block is first copied to the record's work area.
 template <class M>
 KelStatus filter_in_place(Record* r, data_t<M>* buf, int n, int sf) {
   using D = data_t<M>;
@@ -497,6 +498,7 @@ KelStatus block_family(const data_t<M>* src, data_t<M>* dst, int n, State* s, in
   KELS_REQUIRE_PTRS(s, src, dst);
   KELS_REQUIRE_LEN(n);
   KELS_REQUIRE_ID(s, M::id);
+  if (src == dst) return filter_in_place<M>(rec(s), dst, n, sf);
   return filter_block<M>(rec(s), src, dst, n, sf);
 }
 
@@ -680,6 +682,7 @@ KELS_EXPORT KelStatus kelsFIRSetTaps_32s(const Kel32s* pTaps, KelsFIRState_32s* 
 // Single-rate workers of the "12IF" record, without argument checks.
 KELS_EXPORT KelStatus kelsFIRSR64f_32s_Sfs(const Kel32s* pSrc, Kel32s* pDst, int numIters,
                                            KelsFIRState64f_32s* pState, int scaleFactor) {
+  if (pSrc == pDst) return filter_in_place<M64f32s>(rec(pState), pDst, numIters, scaleFactor);
   return filter_block<M64f32s>(rec(pState), pSrc, pDst, numIters, scaleFactor);
 }
 KELS_EXPORT KelStatus kelsFIRSR64f_32s_ISfs(Kel32s* pSrcDst, int numIters, KelsFIRState64f_32s* pState,

@@ -228,15 +228,18 @@ TYPED_TEST(FirState, InPlaceEqualsOutOfPlace) {
   for (int L : {2, 9, 40}) {
     const auto taps = random_taps<typename A::Tap>(L, g);
     const auto hist = random_data<Data>(L, g);
-    Filter<A> a(taps, hist), b(taps, hist);
+    Filter<A> a(taps, hist), b(taps, hist), c(taps, hist);
     for (int n : {1, 5, L + 6, 9000}) {
       auto x = random_data<Data>(static_cast<std::size_t>(n), g);
-      std::vector<Data> y(x.size());
+      std::vector<Data> y(x.size()), z = x;
       ASSERT_EQ(A::block(x.data(), y.data(), n, a.state, kSf), kelStsOk);
       ASSERT_EQ(A::block_i(x.data(), n, b.state, kSf), kelStsOk);
+      ASSERT_EQ(A::block(z.data(), z.data(), n, c.state, kSf), kelStsOk);  // same array twice
       EXPECT_TRUE(same_vec(x, y)) << "L=" << L << " n=" << n;
+      EXPECT_TRUE(same_vec(z, y)) << "L=" << L << " n=" << n;
     }
     EXPECT_TRUE(same_vec(a.dly(), b.dly()));
+    EXPECT_TRUE(same_vec(a.dly(), c.dly()));
   }
 }
 
