@@ -109,6 +109,24 @@ typedef enum { kelRndZero = 0, kelRndNear = 1, kelRndFinancial = 2 } KelRoundMod
 /* @records-transform */
 
 /* @records-fir */
+/* FIR filter states. The four-character identifiers of the records are
+ * checked by every call; 32s_16s32f shares the 32s_16s record, 32sc_16sc32fc
+ * the 32sc_16sc record and _32s the 64f_32s record. */
+typedef struct KelsFIRState_32f KelsFIRState_32f;
+typedef struct KelsFIRState_32fc KelsFIRState_32fc;
+typedef struct KelsFIRState_64f KelsFIRState_64f;
+typedef struct KelsFIRState_64fc KelsFIRState_64fc;
+typedef struct KelsFIRState32f_16s KelsFIRState32f_16s;
+typedef struct KelsFIRState32fc_16sc KelsFIRState32fc_16sc;
+typedef struct KelsFIRState32s_16s KelsFIRState32s_16s;
+typedef struct KelsFIRState32sc_16sc KelsFIRState32sc_16sc;
+typedef struct KelsFIRState64f_32f KelsFIRState64f_32f;
+typedef struct KelsFIRState64fc_32fc KelsFIRState64fc_32fc;
+typedef struct KelsFIRState64f_32s KelsFIRState64f_32s;
+typedef struct KelsFIRState64fc_32sc KelsFIRState64fc_32sc;
+typedef struct KelsFIRState64f_16s KelsFIRState64f_16s;
+typedef struct KelsFIRState64fc_16sc KelsFIRState64fc_16sc;
+typedef KelsFIRState64f_32s KelsFIRState_32s;
 
 /* @records-iir */
 

@@ -1,0 +1,696 @@
+// Single-rate FIR filters on a state record: size, Init/InitAlloc/Free, the
+// exchange of taps and delay lines, the one-sample step and the direct block
+// method. One template per operation; the member tables at the end
+// instantiate the exported functions.
+#include <omp.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <new>
+
+#include "fir/fir_arith.h"
+#include "fir/fir_record.h"
+#include "frame/common.h"
+#include "frame/malloc.h"
+#include "kernels/fir.h"
+
+namespace kels::fir {
+namespace {
+
+// Outputs read straight from the caller's input are computed in a parallel
+// region when the block has more samples than this.
+constexpr int kParallelMinIters = 160000;
+// The FFT method is chosen for blocks of at least this many samples.
+constexpr int kFftMinIters = 512;
+// The 64f_32s worker filters a block in pieces of at most this many samples.
+constexpr int kPiece64f32s = 2048;
+
+template <class M> using tap_t = typename M::Tap;
+template <class M> using data_t = typename M::Data;
+
+template <class State> Record* rec(State* s) { return reinterpret_cast<Record*>(s); }
+template <class State> const Record* rec(const State* s) { return reinterpret_cast<const Record*>(s); }
+
+// Power-of-two factor applied to the sums when converting them to the data
+// type: only the integer-taps records scale their sums by their factor.
+template <class M> int sum_factor(const Record* r) { return M::int_taps ? r->taps_factor : 0; }
+
+// ---- Inner products.
+
+// Sum of taps[k] * x[k] in the member's accumulator, k = 0..L-1 in order.
+template <class M>
+acc_t<tap_t<M>, data_t<M>> dot(const tap_t<M>* t, const data_t<M>* x, int L) {
+  using A = acc_t<tap_t<M>, data_t<M>>;
+  A acc{};
+  for (int k = 0; k < L; ++k) acc = acc + widen<A>(t[k]) * widen<A>(x[k]);
+  return acc;
+}
+
+// One-sample sum of the single-precision record: below four taps the
+// products are summed in extended precision; from four taps on, in four
+// running single-precision partial sums (partial sum j takes the products
+// whose index is j modulo 4), the 2- and 1-element tails going to the first
+// partial sums, combined pairwise at the end.
+float one_sum_32f(const float* t, const float* x, int L) {
+  if (L < 4) {
+    long double s = 0;
+    for (int k = 0; k < L; ++k) s += static_cast<long double>(t[k]) * x[k];
+    return static_cast<float>(s);
+  }
+  float s0 = 0, s1 = 0, s2 = 0, s3 = 0;
+  int k = 0;
+  for (; k + 4 <= L; k += 4) {
+    s0 = s0 + t[k] * x[k];
+    s1 = s1 + t[k + 1] * x[k + 1];
+    s2 = s2 + t[k + 2] * x[k + 2];
+    s3 = s3 + t[k + 3] * x[k + 3];
+  }
+  if (L - k >= 2) {
+    s0 = s0 + t[k] * x[k];
+    s1 = s1 + t[k + 1] * x[k + 1];
+    k += 2;
+  }
+  if (k < L) s0 = s0 + t[k] * x[k];
+  return (s0 + s1) + (s2 + s3);
+}
+
+// count outputs y[n] = sum over k of taps[k] * x[n+k]. The members whose
+// taps and data share a float type use the SIMD kernels; the others form
+// each sum in their accumulator and convert it.
+template <class M>
+void run_kernel(const Record* r, const data_t<M>* x, data_t<M>* y, std::size_t count, int sf) {
+  const tap_t<M>* t = area<tap_t<M>>(r, r->taps);
+  const std::size_t L = static_cast<std::size_t>(r->taps_len);
+  if constexpr (std::is_same_v<M, M32f>) {
+    kernels::fir_dot_f32(t, L, x, y, count);
+  } else if constexpr (std::is_same_v<M, M64f>) {
+    kernels::fir_dot_f64(t, L, x, y, count);
+  } else if constexpr (std::is_same_v<M, M32fc>) {
+    kernels::fir_dot_c32(reinterpret_cast<const float*>(t), L, reinterpret_cast<const float*>(x),
+                         reinterpret_cast<float*>(y), count);
+  } else {
+    const int factor = sum_factor<M>(r);
+    for (std::size_t n = 0; n < count; ++n) {
+      y[n] = convert<data_t<M>>(dot<M>(t, x + n, static_cast<int>(L)), sf, factor);
+    }
+  }
+}
+
+// The same, split into contiguous ranges over the library's thread count.
+// Every output is formed by the same sequence of operations whoever
+// computes it, so the result does not depend on the split.
+template <class M>
+void run_kernel_parallel(const Record* r, const data_t<M>* x, data_t<M>* y, std::size_t count, int sf) {
+  const int threads = threads_omp_of_n_kel;
+  if (threads < 2) {
+    run_kernel<M>(r, x, y, count, sf);
+    return;
+  }
+#pragma omp parallel num_threads(threads)
+  {
+    const std::uint64_t nt = static_cast<std::uint64_t>(omp_get_num_threads());
+    const std::uint64_t id = static_cast<std::uint64_t>(omp_get_thread_num());
+    const std::size_t lo = static_cast<std::size_t>(count * id / nt);
+    const std::size_t hi = static_cast<std::size_t>(count * (id + 1) / nt);
+    if (hi > lo) run_kernel<M>(r, x + lo, y + lo, hi - lo, sf);
+  }
+}
+
+// ---- Direct block method.
+//
+// h = delay-line area + dlyIndex holds the L history samples oldest first.
+// Short blocks (numIters <= directLimit) are appended behind the history and
+// filtered there, then the newest L samples are moved to the start of the
+// area. Longer blocks append only directLimit samples for the first L4
+// outputs (which need history), take the new history from the end of the
+// input, and compute the remaining outputs straight from the input.
+template <class M>
+void direct_block(Record* r, const data_t<M>* src, data_t<M>* dst, int n, int sf) {
+  using D = data_t<M>;
+  const int L = r->taps_len;
+  const int L4 = (L + 3) & ~3;
+  const int limit = r->direct_limit;
+  D* dly = area<D>(r, r->dly);
+  D* h = dly + r->dly_index;
+  r->dly_index = 0;
+  if (n <= limit) {
+    copy_n(src, h + L, n);
+    run_kernel<M>(r, h + 1, dst, static_cast<std::size_t>(n), sf);
+    move_n(h + n, dly, L);
+    return;
+  }
+  copy_n(src, h + L, limit);
+  run_kernel<M>(r, h + 1, dst, static_cast<std::size_t>(L4), sf);
+  copy_n(src + (n - L), dly, L);
+  const D* rest_in = src + (L4 - L + 1);
+  const std::size_t rest = static_cast<std::size_t>(n - L4);
+  if (n > kParallelMinIters) run_kernel_parallel<M>(r, rest_in, dst + L4, rest, sf);
+  else run_kernel<M>(r, rest_in, dst + L4, rest, sf);
+}
+
+// Method selection of the block filter.
+//
+// Records made by InitAlloc with at least 64 taps are meant to filter blocks
+// of kFftMinIters samples and more by overlap-save through the real FFT
+// (fftLen = twice the smallest power of two above L, per-thread blocks above
+// 160000 samples). That method needs the real transforms, which are not part
+// of the library yet: InitAlloc therefore prepares no FFT (fftSpec null,
+// fftLen -1) and every block takes the direct method, which gives the same
+// outputs up to rounding. Remaining: overlap-save through the real FFT and
+// its parallel path, chosen here when fftLen >= 1 and numIters >= kFftMinIters.
+template <class M>
+KelStatus filter_block(Record* r, const data_t<M>* src, data_t<M>* dst, int n, int sf) {
+  constexpr int piece = std::is_same_v<M, M64f32s> ? kPiece64f32s : std::numeric_limits<int>::max();
+  for (int i = 0; i < n; i += piece) {
+    const int m = std::min(piece, n - i);
+    direct_block<M>(r, src + i, dst + i, m, sf);
+  }
+  return kelStsOk;
+}
+
+// In place (the _I twins, and the out-of-place entry points given the same
+// array twice): the direct method reads inputs after writing earlier outputs,
+// so each piece of the block is first copied to the record's work area.
+template <class M>
+KelStatus filter_in_place(Record* r, data_t<M>* buf, int n, int sf) {
+  using D = data_t<M>;
+  if (n <= r->direct_limit) return filter_block<M>(r, buf, buf, n, sf);
+  D* work = area<D>(r, r->work);
+  const int chunk = r->work_len;
+  for (int i = 0; i < n; i += chunk) {
+    const int m = std::min(chunk, n - i);
+    copy_n(buf + i, work, m);
+    KELS_RETURN_IF_ERROR(filter_block<M>(r, work, buf + i, m, sf));
+  }
+  return kelStsOk;
+}
+
+// One sample on the doubled delay line inside the area: store at d[i] and
+// d[i+L], advance i, and form the sum over the span d[i..i+L-1].
+template <class M>
+data_t<M> one_step(Record* r, data_t<M> x, int sf) {
+  using D = data_t<M>;
+  const int L = r->taps_len;
+  D* d = area<D>(r, r->dly);
+  int i = r->dly_index;
+  d[i] = x;
+  d[i + L] = x;
+  i = i + 1 >= L ? 0 : i + 1;
+  r->dly_index = i;
+  const tap_t<M>* t = area<tap_t<M>>(r, r->taps);
+  if constexpr (std::is_same_v<M, M32f>) {
+    (void)sf;
+    return one_sum_32f(t, d + i, L);
+  } else {
+    return convert<D>(dot<M>(t, d + i, L), sf, sum_factor<M>(r));
+  }
+}
+
+// ---- Record construction and the exchange of taps and history.
+
+template <class M>
+void set_history(Record* r, const data_t<M>* p) {
+  using D = data_t<M>;
+  const int L = r->dly_len;
+  D* h = area<D>(r, r->dly);
+  r->dly_index = 0;
+  if (p == nullptr) {
+    zero_n(h, L);
+    return;
+  }
+  for (int i = 0; i < L; ++i) h[i] = p[L - 1 - i];
+}
+
+template <class M>
+void get_history(const Record* r, data_t<M>* p) {
+  const int L = r->dly_len;
+  const data_t<M>* h = area<data_t<M>>(r, r->dly) + r->dly_index;
+  for (int i = 0; i < L; ++i) p[i] = h[L - 1 - i];
+}
+
+template <class M>
+Record* build(void* mem, int L, const data_t<M>* history) {
+  const Layout lay = layout<M>(L, thread_count());
+  Record* r = new (mem) Record{};
+  r->id = M::id;
+  r->taps = static_cast<std::uint32_t>(lay.taps);
+  r->dly = static_cast<std::uint32_t>(lay.dly);
+  r->taps_x4 = static_cast<std::uint32_t>(lay.taps_x4);
+  r->work = static_cast<std::uint32_t>(lay.work);
+  r->taps_len = L;
+  r->dly_len = L;
+  r->direct_limit = ((L + 3) & ~3) + 1;
+  r->fft_len = -1;
+  r->fft_spec = nullptr;
+  r->work_len = static_cast<std::int32_t>(kWorkUsedBytes / sizeof(data_t<M>));
+  zero_n(area<data_t<M>>(r, r->dly), 3 * L + 4);
+  set_history<M>(r, history);
+  return r;
+}
+
+// Each reversed tap repeated four times (for the integer members the
+// normalised taps at 16 bits, which they fit).
+template <class M>
+void fill_x4(Record* r) {
+  using X = x4_t<tap_t<M>>;
+  const tap_t<M>* t = area<tap_t<M>>(r, r->taps);
+  X* q = area<X>(r, r->taps_x4);
+  for (int k = 0; k < r->taps_len; ++k) {
+    X v;
+    if constexpr (std::is_same_v<X, tap_t<M>>) {
+      v = t[k];
+    } else if constexpr (is_complex<X>::value) {
+      v = X{static_cast<Kel16s>(t[k].re), static_cast<Kel16s>(t[k].im)};
+    } else {
+      v = static_cast<X>(t[k]);
+    }
+    for (int j = 0; j < 4; ++j) q[4 * k + j] = v;
+  }
+}
+
+// Applies f to each part of a real or complex value.
+template <class Out, class In, class F>
+Out map_parts(const In& x, F f) {
+  if constexpr (is_complex<In>::value) {
+    return Out{f(x.re), f(x.im)};
+  } else {
+    return f(x);
+  }
+}
+template <class T, class F>
+void for_parts(const T& x, F f) {
+  if constexpr (is_complex<T>::value) {
+    f(x.re);
+    f(x.im);
+  } else {
+    f(x);
+  }
+}
+
+inline int add_factor(int a, int b) {
+  const std::int64_t s = static_cast<std::int64_t>(a) + b;
+  return static_cast<int>(std::clamp<std::int64_t>(s, std::numeric_limits<int>::min(),
+                                                   std::numeric_limits<int>::max()));
+}
+
+// Taps given in the stored type.
+template <class M>
+void store_plain(Record* r, const tap_t<M>* p) {
+  tap_t<M>* t = area<tap_t<M>>(r, r->taps);
+  const int L = r->taps_len;
+  for (int k = 0; k < L; ++k) t[k] = p[L - 1 - k];
+  r->taps_factor = 0;
+}
+template <class M>
+void load_plain(const Record* r, tap_t<M>* p) {
+  const tap_t<M>* t = area<tap_t<M>>(r, r->taps);
+  const int L = r->taps_len;
+  for (int k = 0; k < L; ++k) p[k] = t[L - 1 - k];
+}
+
+// Integer taps with a factor, normalised: s is the smallest shift that
+// brings the largest magnitude to at most 32766; every tap is shifted right
+// (arithmetically) by s and the stored factor is tapsFactor + s. Works in
+// place on the stored (reversed) taps.
+template <class M>
+void normalise(Record* r, int factor) {
+  using T = tap_t<M>;
+  const int L = r->taps_len;
+  T* t = area<T>(r, r->taps);
+  std::int64_t largest = 0;
+  for (int k = 0; k < L; ++k) {
+    for_parts(t[k], [&](Kel32s v) { largest = std::max<std::int64_t>(largest, v < 0 ? -std::int64_t{v} : v); });
+  }
+  int s = 0;
+  while ((largest >> s) > 32766) ++s;
+  for (int k = 0; k < L; ++k) t[k] = map_parts<T>(t[k], [s](Kel32s v) { return static_cast<Kel32s>(v >> s); });
+  r->taps_factor = add_factor(factor, s);
+}
+template <class M>
+void store_int(Record* r, const tap_t<M>* p, int factor) {
+  store_plain<M>(r, p);
+  normalise<M>(r, factor);
+}
+template <class M>
+void load_int(const Record* r, tap_t<M>* p, int* factor) {
+  load_plain<M>(r, p);
+  *factor = r->taps_factor;
+}
+
+// Float taps into an integer-taps record: the factor f is the smallest that
+// brings the largest magnitude times 2^-f to at most 32766, so the taps keep
+// 15 significant bits; each tap is rounded to nearest even (NaN gives 0),
+// then the normalisation rule applies as for integer taps.
+template <class M, class F>
+void store_float_as_int(Record* r, const F* p) {
+  using T = tap_t<M>;
+  const int L = r->taps_len;
+  double largest = 0;
+  for (int k = 0; k < L; ++k) {
+    for_parts(p[k], [&](float v) {
+      const double a = std::fabs(static_cast<double>(v));
+      if (a > largest && std::isfinite(a)) largest = a;
+    });
+  }
+  int f = 0;
+  if (largest > 0) {
+    int e = 0;
+    std::frexp(largest, &e);
+    f = e - 15;
+    if (std::ldexp(largest, -f) > 32766.0) ++f;
+  }
+  T* t = area<T>(r, r->taps);
+  for (int k = 0; k < L; ++k) {
+    t[k] = map_parts<T>(p[L - 1 - k], [f](float v) {
+      return round_saturate<Kel32s>(std::ldexp(static_cast<double>(v), -f));
+    });
+  }
+  normalise<M>(r, f);
+}
+template <class M, class F>
+void load_int_as_float(const Record* r, F* p) {
+  const tap_t<M>* t = area<tap_t<M>>(r, r->taps);
+  const int L = r->taps_len;
+  const int f = r->taps_factor;
+  for (int k = 0; k < L; ++k) {
+    p[k] = map_parts<F>(t[L - 1 - k], [f](Kel32s v) { return static_cast<float>(std::ldexp(static_cast<double>(v), f)); });
+  }
+}
+
+// 32-bit integer taps with a factor into the double-precision record:
+// stored tap = tap * 2^tapsFactor (exact unless it leaves the double range).
+template <class M>
+void store_int_as_double(Record* r, const Kel32s* p, int factor) {
+  Kel64f* t = area<Kel64f>(r, r->taps);
+  const int L = r->taps_len;
+  for (int k = 0; k < L; ++k) t[k] = std::ldexp(static_cast<double>(p[L - 1 - k]), clamp_shift(factor));
+  r->taps_factor = factor;
+}
+template <class M>
+void load_double_as_int(const Record* r, Kel32s* p, int* factor) {
+  const Kel64f* t = area<Kel64f>(r, r->taps);
+  const int L = r->taps_len;
+  const int f = r->taps_factor;
+  for (int k = 0; k < L; ++k) p[k] = round_saturate<Kel32s>(std::ldexp(t[L - 1 - k], clamp_shift(-std::int64_t{f})));
+  *factor = f;
+}
+
+// ---- Exported operations.
+
+template <class M>
+KelStatus get_state_size(int L, int* size) {
+  KELS_REQUIRE_PTRS(size);
+  if (L < 1) return kelStsBadFIRLength;
+  const int s = state_size<M>(L);
+  if (s == 0) return kelStsBadFIRLength;
+  *size = s;
+  return kelStsOk;
+}
+
+// Builds the record in the caller's buffer (rounded up to 16 bytes) or, when
+// buffer is null, in a block of its own. store(r) writes the taps.
+template <class M, class State, class Store>
+KelStatus init_family(State** pp, int L, const data_t<M>* history, Kel8u* buffer, Store store) {
+  if (L < 1) return kelStsBadFIRLength;
+  const int size = state_size<M>(L);
+  if (size == 0) return kelStsBadFIRLength;
+  void* mem;
+  if (buffer != nullptr) {
+    const std::uintptr_t a = reinterpret_cast<std::uintptr_t>(buffer);
+    mem = buffer + ((16 - a % 16) % 16);
+  } else {
+    // The FFT method, once available, adds its transformed taps, per-thread
+    // blocks and FFT work buffers to this block for L >= 64.
+    mem = aligned_alloc_bytes(static_cast<std::uint32_t>(size));
+    if (mem == nullptr) return kelStsNoMemory;
+  }
+  Record* r = build<M>(mem, L, history);
+  r->owned = buffer == nullptr ? 1 : 0;
+  store(r);
+  fill_x4<M>(r);
+  *pp = reinterpret_cast<State*>(r);
+  return kelStsOk;
+}
+
+template <class M, class State>
+KelStatus free_family(State* s) {
+  KELS_REQUIRE_PTRS(s);
+  KELS_REQUIRE_ID(s, M::id);
+  Record* r = rec(s);
+  if (r->owned == 0) return kelStsOk;
+  // A prepared FFT specification would be released here, before the record.
+  aligned_free(r);
+  return kelStsOk;
+}
+
+// Taps exchange: both pointers, then the identifier, then the conversion.
+template <class M, class State, class Fn>
+KelStatus taps_family(State* s, const void* taps, Fn fn) {
+  KELS_REQUIRE_PTRS(s, taps);
+  KELS_REQUIRE_ID(s, M::id);
+  fn(rec(s));
+  return kelStsOk;
+}
+
+// Replacing taps keeps the history. A prepared FFT would have its
+// transformed taps rebuilt here.
+template <class M, class State, class Fn>
+KelStatus set_taps_family(State* s, const void* taps, Fn store) {
+  KELS_REQUIRE_PTRS(s, taps);
+  KELS_REQUIRE_ID(s, M::id);
+  store(rec(s));
+  fill_x4<M>(rec(s));
+  return kelStsOk;
+}
+
+template <class M, class State>
+KelStatus get_dly_family(const State* s, data_t<M>* p) {
+  KELS_REQUIRE_PTRS(s, p);
+  KELS_REQUIRE_ID(s, M::id);
+  get_history<M>(rec(s), p);
+  return kelStsOk;
+}
+
+template <class M, class State>
+KelStatus set_dly_family(State* s, const data_t<M>* p) {
+  KELS_REQUIRE_PTRS(s);
+  KELS_REQUIRE_ID(s, M::id);
+  set_history<M>(rec(s), p);
+  return kelStsOk;
+}
+
+// One sample: only the single-rate identifier is accepted.
+template <class M, class State>
+KelStatus one_family(data_t<M> src, data_t<M>* dst, State* s, int sf) {
+  KELS_REQUIRE_PTRS(s, dst);
+  KELS_REQUIRE_ID(s, M::id);
+  *dst = one_step<M>(rec(s), src, sf);
+  return kelStsOk;
+}
+
+// Block filter. The single-precision block entry points also accept the
+// multi-rate record once that family exists; until then its identifier is
+// refused like any other foreign record.
+template <class M, class State>
+KelStatus block_family(const data_t<M>* src, data_t<M>* dst, int n, State* s, int sf) {
+  KELS_REQUIRE_PTRS(s, src, dst);
+  KELS_REQUIRE_LEN(n);
+  KELS_REQUIRE_ID(s, M::id);
+  if (src == dst) return filter_in_place<M>(rec(s), dst, n, sf);
+  return filter_block<M>(rec(s), src, dst, n, sf);
+}
+
+template <class M, class State>
+KelStatus block_family_i(data_t<M>* buf, int n, State* s, int sf) {
+  KELS_REQUIRE_PTRS(s, buf);
+  KELS_REQUIRE_LEN(n);
+  KELS_REQUIRE_ID(s, M::id);
+  return filter_in_place<M>(rec(s), buf, n, sf);
+}
+
+}  // namespace
+}  // namespace kels::fir
+
+using namespace kels::fir;
+
+// ---- Member tables: (taps prefix, data code, member, state type).
+// Float data, no scale factor.
+#define KELS_FIR_FLOAT_MEMBERS(X)                                                                  \
+  X(, 32f, M32f, KelsFIRState_32f) X(, 32fc, M32fc, KelsFIRState_32fc)                            \
+  X(, 64f, M64f, KelsFIRState_64f) X(, 64fc, M64fc, KelsFIRState_64fc)                            \
+  X(64f, 32f, M64f32f, KelsFIRState64f_32f) X(64fc, 32fc, M64fc32fc, KelsFIRState64fc_32fc)
+// Integer data with a scale factor, float taps.
+#define KELS_FIR_SFS_MEMBERS(X)                                                                    \
+  X(32f, 16s, M32f16s, KelsFIRState32f_16s) X(32fc, 16sc, M32fc16sc, KelsFIRState32fc_16sc)       \
+  X(64f, 32s, M64f32s, KelsFIRState64f_32s) X(64fc, 32sc, M64fc32sc, KelsFIRState64fc_32sc)       \
+  X(64f, 16s, M64f16s, KelsFIRState64f_16s) X(64fc, 16sc, M64fc16sc, KelsFIRState64fc_16sc)
+// Integer taps with a factor; the last two entries name the float-taps
+// variant sharing the record (suffix of its names, its taps type).
+#define KELS_FIR_INT_TAPS_MEMBERS(X)                                                               \
+  X(32s, 16s, M32s16s, KelsFIRState32s_16s, 32f, Kel32f)                                          \
+  X(32sc, 16sc, M32sc16sc, KelsFIRState32sc_16sc, 32fc, Kel32fc)
+
+#define KELS_DEFINE_FIR_LIFECYCLE(P, D, M, State)                                                  \
+  KELS_EXPORT KelStatus kelsFIRGetStateSize##P##_##D(int tapsLen, int* pStateSize) {              \
+    return get_state_size<M>(tapsLen, pStateSize);                                                 \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIRFree##P##_##D(State* pState) { return free_family<M>(pState); }
+
+#define KELS_DEFINE_FIR_DLY(P, D, M, State)                                                        \
+  KELS_EXPORT KelStatus kelsFIRGetDlyLine##P##_##D(const State* pState, M::Data* pDlyLine) {      \
+    return get_dly_family<M>(pState, pDlyLine);                                                    \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIRSetDlyLine##P##_##D(State* pState, const M::Data* pDlyLine) {      \
+    return set_dly_family<M>(pState, pDlyLine);                                                    \
+  }
+
+#define KELS_DEFINE_FIR_PLAIN_TAPS(P, D, M, State)                                                 \
+  KELS_EXPORT KelStatus kelsFIRInit##P##_##D(State** ppState, const M::Tap* pTaps, int tapsLen,   \
+                                             const M::Data* pDlyLine, Kel8u* pBuffer) {            \
+    KELS_REQUIRE_PTRS(ppState, pTaps, pBuffer);                                                    \
+    return init_family<M>(ppState, tapsLen, pDlyLine, pBuffer,                                     \
+                          [pTaps](Record* r) { store_plain<M>(r, pTaps); });                       \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIRInitAlloc##P##_##D(State** ppState, const M::Tap* pTaps,           \
+                                                  int tapsLen, const M::Data* pDlyLine) {          \
+    KELS_REQUIRE_PTRS(ppState, pTaps);                                                             \
+    return init_family<M>(ppState, tapsLen, pDlyLine, nullptr,                                     \
+                          [pTaps](Record* r) { store_plain<M>(r, pTaps); });                       \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIRGetTaps##P##_##D(const State* pState, M::Tap* pTaps) {             \
+    return taps_family<M>(pState, pTaps, [pTaps](const Record* r) { load_plain<M>(r, pTaps); });  \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIRSetTaps##P##_##D(const M::Tap* pTaps, State* pState) {             \
+    return set_taps_family<M>(pState, pTaps, [pTaps](Record* r) { store_plain<M>(r, pTaps); });   \
+  }
+
+#define KELS_DEFINE_FIR_FILTER(P, D, M, State)                                                     \
+  KELS_EXPORT KelStatus kelsFIROne##P##_##D(M::Data src, M::Data* pDstVal, State* pState) {       \
+    return one_family<M>(src, pDstVal, pState, 0);                                                 \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIR##P##_##D(const M::Data* pSrc, M::Data* pDst, int numIters,        \
+                                         State* pState) {                                          \
+    return block_family<M>(pSrc, pDst, numIters, pState, 0);                                       \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIR##P##_##D##_I(M::Data* pSrcDst, int numIters, State* pState) {     \
+    return block_family_i<M>(pSrcDst, numIters, pState, 0);                                        \
+  }
+
+#define KELS_DEFINE_FIR_FILTER_SFS(P, D, M, State)                                                 \
+  KELS_EXPORT KelStatus kelsFIROne##P##_##D##_Sfs(M::Data src, M::Data* pDstVal, State* pState,   \
+                                                  int scaleFactor) {                               \
+    return one_family<M>(src, pDstVal, pState, scaleFactor);                                       \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIR##P##_##D##_Sfs(const M::Data* pSrc, M::Data* pDst, int numIters,  \
+                                               State* pState, int scaleFactor) {                   \
+    return block_family<M>(pSrc, pDst, numIters, pState, scaleFactor);                             \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIR##P##_##D##_ISfs(M::Data* pSrcDst, int numIters, State* pState,    \
+                                                int scaleFactor) {                                 \
+    return block_family_i<M>(pSrcDst, numIters, pState, scaleFactor);                              \
+  }
+
+// Integer taps with tapsFactor, and the float-taps variant of the same record
+// (no delay-line exchange of its own: the integer member's serves both).
+#define KELS_DEFINE_FIR_INT_TAPS(P, D, M, State, FC, F)                                            \
+  KELS_EXPORT KelStatus kelsFIRInit##P##_##D(State** ppState, const M::Tap* pTaps, int tapsLen,   \
+                                             int tapsFactor, const M::Data* pDlyLine,              \
+                                             Kel8u* pBuffer) {                                     \
+    KELS_REQUIRE_PTRS(ppState, pTaps, pBuffer);                                                    \
+    return init_family<M>(ppState, tapsLen, pDlyLine, pBuffer,                                     \
+                          [=](Record* r) { store_int<M>(r, pTaps, tapsFactor); });                 \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIRInitAlloc##P##_##D(State** ppState, const M::Tap* pTaps,           \
+                                                  int tapsLen, int tapsFactor,                     \
+                                                  const M::Data* pDlyLine) {                       \
+    KELS_REQUIRE_PTRS(ppState, pTaps);                                                             \
+    return init_family<M>(ppState, tapsLen, pDlyLine, nullptr,                                     \
+                          [=](Record* r) { store_int<M>(r, pTaps, tapsFactor); });                 \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIRGetTaps##P##_##D(const State* pState, M::Tap* pTaps,               \
+                                                int* pTapsFactor) {                                \
+    KELS_REQUIRE_PTRS(pTapsFactor);                                                                \
+    return taps_family<M>(pState, pTaps, [=](const Record* r) { load_int<M>(r, pTaps, pTapsFactor); }); \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIRSetTaps##P##_##D(const M::Tap* pTaps, State* pState,               \
+                                                int tapsFactor) {                                  \
+    return set_taps_family<M>(pState, pTaps, [=](Record* r) { store_int<M>(r, pTaps, tapsFactor); }); \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIRInit##P##_##D##FC(State** ppState, const F* pTaps, int tapsLen,    \
+                                                 const M::Data* pDlyLine, Kel8u* pBuffer) {        \
+    KELS_REQUIRE_PTRS(ppState, pTaps, pBuffer);                                                    \
+    return init_family<M>(ppState, tapsLen, pDlyLine, pBuffer,                                     \
+                          [=](Record* r) { store_float_as_int<M>(r, pTaps); });                    \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIRInitAlloc##P##_##D##FC(State** ppState, const F* pTaps,            \
+                                                      int tapsLen, const M::Data* pDlyLine) {      \
+    KELS_REQUIRE_PTRS(ppState, pTaps);                                                             \
+    return init_family<M>(ppState, tapsLen, pDlyLine, nullptr,                                     \
+                          [=](Record* r) { store_float_as_int<M>(r, pTaps); });                    \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIRGetTaps##P##_##D##FC(const State* pState, F* pTaps) {              \
+    return taps_family<M>(pState, pTaps, [=](const Record* r) { load_int_as_float<M>(r, pTaps); }); \
+  }                                                                                                \
+  KELS_EXPORT KelStatus kelsFIRSetTaps##P##_##D##FC(const F* pTaps, State* pState) {              \
+    return set_taps_family<M>(pState, pTaps, [=](Record* r) { store_float_as_int<M>(r, pTaps); }); \
+  }                                                                                                \
+  KELS_DEFINE_FIR_LIFECYCLE(P, D##FC, M, State)                                                    \
+  KELS_DEFINE_FIR_FILTER_SFS(P, D##FC, M, State)
+
+#define KELS_DEFINE_FIR_ALL_FLOAT(P, D, M, State) \
+  KELS_DEFINE_FIR_LIFECYCLE(P, D, M, State) KELS_DEFINE_FIR_DLY(P, D, M, State) \
+  KELS_DEFINE_FIR_PLAIN_TAPS(P, D, M, State) KELS_DEFINE_FIR_FILTER(P, D, M, State)
+#define KELS_DEFINE_FIR_ALL_SFS(P, D, M, State) \
+  KELS_DEFINE_FIR_LIFECYCLE(P, D, M, State) KELS_DEFINE_FIR_DLY(P, D, M, State) \
+  KELS_DEFINE_FIR_PLAIN_TAPS(P, D, M, State) KELS_DEFINE_FIR_FILTER_SFS(P, D, M, State)
+#define KELS_DEFINE_FIR_ALL_INT(P, D, M, State, FC, F) \
+  KELS_DEFINE_FIR_LIFECYCLE(P, D, M, State) KELS_DEFINE_FIR_DLY(P, D, M, State) \
+  KELS_DEFINE_FIR_FILTER_SFS(P, D, M, State) KELS_DEFINE_FIR_INT_TAPS(P, D, M, State, FC, F)
+
+KELS_FOR_MEMBERS(KELS_FIR_FLOAT_MEMBERS, KELS_DEFINE_FIR_ALL_FLOAT)
+KELS_FOR_MEMBERS(KELS_FIR_SFS_MEMBERS, KELS_DEFINE_FIR_ALL_SFS)
+KELS_FOR_MEMBERS(KELS_FIR_INT_TAPS_MEMBERS, KELS_DEFINE_FIR_ALL_INT)
+
+// _32s: 32-bit integer taps with a factor, kept as doubles in the 64f_32s
+// record ("12IF"); its delay line is exchanged through the 64f_32s functions.
+KELS_DEFINE_FIR_LIFECYCLE(, 32s, M64f32s, KelsFIRState_32s)
+KELS_DEFINE_FIR_FILTER_SFS(, 32s, M64f32s, KelsFIRState_32s)
+KELS_EXPORT KelStatus kelsFIRInit_32s(KelsFIRState_32s** ppState, const Kel32s* pTaps, int tapsLen,
+                                      int tapsFactor, const Kel32s* pDlyLine, Kel8u* pBuffer) {
+  KELS_REQUIRE_PTRS(ppState, pTaps, pBuffer);
+  return init_family<M64f32s>(ppState, tapsLen, pDlyLine, pBuffer,
+                              [=](Record* r) { store_int_as_double<M64f32s>(r, pTaps, tapsFactor); });
+}
+KELS_EXPORT KelStatus kelsFIRInitAlloc_32s(KelsFIRState_32s** ppState, const Kel32s* pTaps, int tapsLen,
+                                           int tapsFactor, const Kel32s* pDlyLine) {
+  KELS_REQUIRE_PTRS(ppState, pTaps);
+  return init_family<M64f32s>(ppState, tapsLen, pDlyLine, nullptr,
+                              [=](Record* r) { store_int_as_double<M64f32s>(r, pTaps, tapsFactor); });
+}
+KELS_EXPORT KelStatus kelsFIRGetTaps_32s(const KelsFIRState_32s* pState, Kel32s* pTaps, int* pTapsFactor) {
+  KELS_REQUIRE_PTRS(pTapsFactor);
+  return taps_family<M64f32s>(pState, pTaps,
+                              [=](const Record* r) { load_double_as_int<M64f32s>(r, pTaps, pTapsFactor); });
+}
+KELS_EXPORT KelStatus kelsFIRSetTaps_32s(const Kel32s* pTaps, KelsFIRState_32s* pState, int tapsFactor) {
+  return set_taps_family<M64f32s>(pState, pTaps,
+                                  [=](Record* r) { store_int_as_double<M64f32s>(r, pTaps, tapsFactor); });
+}
+
+// Single-rate workers of the "12IF" record, without argument checks.
+KELS_EXPORT KelStatus kelsFIRSR64f_32s_Sfs(const Kel32s* pSrc, Kel32s* pDst, int numIters,
+                                           KelsFIRState64f_32s* pState, int scaleFactor) {
+  if (pSrc == pDst) return filter_in_place<M64f32s>(rec(pState), pDst, numIters, scaleFactor);
+  return filter_block<M64f32s>(rec(pState), pSrc, pDst, numIters, scaleFactor);
+}
+KELS_EXPORT KelStatus kelsFIRSR64f_32s_ISfs(Kel32s* pSrcDst, int numIters, KelsFIRState64f_32s* pState,
+                                            int scaleFactor) {
+  return filter_in_place<M64f32s>(rec(pState), pSrcDst, numIters, scaleFactor);
+}
+KELS_EXPORT KelStatus kelsFIRSROne64f_32s_Sfs(Kel32s src, Kel32s* pDstVal, KelsFIRState64f_32s* pState,
+                                              int scaleFactor) {
+  *pDstVal = one_step<M64f32s>(rec(pState), src, scaleFactor);
+  return kelStsOk;
+}
