@@ -36,28 +36,38 @@ size_t SatAddSub16(ArithOp op, const T* x, bool xc, const T* y, bool yc, T* dst,
   return i;
 }
 
-// Scale factor 1 of add (both types) and of signed sub, without widening:
-// with a = 2a1 + a0 and b = 2b1 + b0, floor((a + b) / 2) = a1 + b1 + (a0 & b0)
-// and floor((a - b) / 2) = a1 - b1 - (~a0 & b0); the sum is odd when
-// a0 != b0, and an odd sum rounds up when the floor is odd (ties to even).
-// Rounding up can pass 32767 only for 32767 - (-32768), which saturates.
+// Scale factor 1 of add (both types) and of signed sub, without widening.
+// AverageRound gives (a + b + 1) >> 1 on unsigned lanes: the floor of the
+// half-sum plus one when the sum is odd. Ties to even take that one back
+// when the result is odd (the sum is odd exactly when a ^ b is odd).
+// Signed lanes are biased by 0x8000 into unsigned ones; for a - b the
+// right operand enters as ~b (= -b - 1), whose extra -1 cancels the +1, so
+// the average is the floor and an odd difference rounds up when the floor
+// is odd (saturating: 32767 - (-32768) gives 32767).
 template <class T>
 size_t HalfAddSub16(ArithOp op, const T* x, bool xc, const T* y, bool yc, T* dst, size_t n) {
   const hn::ScalableTag<T> d;
+  const hn::RebindToUnsigned<decltype(d)> du;
   const size_t N = hn::Lanes(d);
   const auto xs = hn::Set(d, x[0]);
   const auto ys = hn::Set(d, y[0]);
-  const auto one = hn::Set(d, T{1});
+  const auto one = hn::Set(du, uint16_t{1});
+  const auto bias = hn::Set(du, uint16_t{std::is_signed_v<T> ? 0x8000 : 0});
+  const auto nbias = hn::Set(du, uint16_t{0x7FFF});  // ~b ^ 0x8000 == b ^ 0x7FFF
   size_t i = 0;
   for (; i + N <= n; i += N) {
-    const auto a = xc ? xs : hn::LoadU(d, x + i);
-    const auto b = yc ? ys : hn::LoadU(d, y + i);
-    const auto a1 = hn::ShiftRight<1>(a);
-    const auto b1 = hn::ShiftRight<1>(b);
-    const auto q = op == ArithOp::add ? hn::Add(hn::Add(a1, b1), hn::And(hn::And(a, b), one))
-                                      : hn::Sub(hn::Sub(a1, b1), hn::And(hn::AndNot(a, b), one));
-    const auto up = hn::And(hn::And(hn::Xor(a, b), q), one);
-    hn::StoreU(hn::SaturatedAdd(q, up), d, dst + i);
+    const auto a = hn::BitCast(du, xc ? xs : hn::LoadU(d, x + i));
+    const auto b = hn::BitCast(du, yc ? ys : hn::LoadU(d, y + i));
+    const auto odd = hn::And(hn::Xor(a, b), one);
+    if (op == ArithOp::add) {
+      const auto avg = hn::AverageRound(hn::Xor(a, bias), hn::Xor(b, bias));
+      const auto r = hn::Sub(avg, hn::And(odd, avg));
+      hn::StoreU(hn::BitCast(d, hn::Xor(r, bias)), d, dst + i);
+    } else {
+      const auto fl = hn::BitCast(d, hn::Xor(hn::AverageRound(hn::Xor(a, bias), hn::Xor(b, nbias)), bias));
+      const auto up = hn::BitCast(d, hn::And(odd, hn::BitCast(du, fl)));
+      hn::StoreU(hn::SaturatedAdd(fl, up), d, dst + i);
+    }
   }
   return i;
 }
@@ -142,6 +152,53 @@ size_t Widened16(ArithOp op, int shift, const T* x, bool xc, const T* y, bool yc
   return i;
 }
 
+#if HWY_TARGET != HWY_SCALAR
+// Signed 16-bit data at full width: each vector of elements becomes two
+// vectors of 32-bit lanes by interleaving with the sign (add, sub) or by
+// interleaving the low and high halves of the 16x16 products (mul). The
+// interleave works on the lower and upper halves of each 128-bit block and
+// the saturating pack joins them back block by block, which restores the
+// element order.
+template <ScaleMode M>
+size_t ZipS16(ArithOp op, int shift, const int16_t* x, bool xc, const int16_t* y, bool yc, int16_t* dst,
+              size_t n) {
+  const hn::ScalableTag<int16_t> d;
+  const hn::RepartitionToWide<decltype(d)> dw;
+  const size_t N = hn::Lanes(d);
+  const auto xs = hn::Set(d, x[0]);
+  const auto ys = hn::Set(d, y[0]);
+  size_t i = 0;
+  for (; i + N <= n; i += N) {
+    const auto a = xc ? xs : hn::LoadU(d, x + i);
+    const auto b = yc ? ys : hn::LoadU(d, y + i);
+    hn::Vec<decltype(dw)> r0, r1;
+    if (op == ArithOp::mul) {
+      const auto lo = hn::Mul(a, b);
+      const auto hi = hn::MulHigh(a, b);
+      r0 = hn::ZipLower(dw, lo, hi);
+      r1 = hn::ZipUpper(dw, lo, hi);
+    } else {
+      const auto sa = hn::ShiftRight<15>(a);
+      const auto sb = hn::ShiftRight<15>(b);
+      const auto a0 = hn::ZipLower(dw, a, sa), a1 = hn::ZipUpper(dw, a, sa);
+      const auto b0 = hn::ZipLower(dw, b, sb), b1 = hn::ZipUpper(dw, b, sb);
+      r0 = op == ArithOp::add ? hn::Add(a0, b0) : hn::Sub(a0, b0);
+      r1 = op == ArithOp::add ? hn::Add(a1, b1) : hn::Sub(a1, b1);
+    }
+    hn::StoreU(hn::ReorderDemote2To(d, ScaleI32<M>(dw, r0, shift), ScaleI32<M>(dw, r1, shift)), d, dst + i);
+  }
+  return i;
+}
+#endif
+
+template <ScaleMode M, class T>
+size_t General16(ArithOp op, int shift, const T* x, bool xc, const T* y, bool yc, T* dst, size_t n) {
+#if HWY_TARGET != HWY_SCALAR
+  if constexpr (std::is_same_v<T, int16_t>) return ZipS16<M>(op, shift, x, xc, y, yc, dst, n);
+#endif
+  return Widened16<M>(op, shift, x, xc, y, yc, dst, n);
+}
+
 template <class T>
 void Scaled16(ArithOp op, ScaleMode mode, int shift, const T* x, bool xc, const T* y, bool yc,
               T* dst, size_t n) {
@@ -153,11 +210,11 @@ void Scaled16(ArithOp op, ScaleMode mode, int shift, const T* x, bool xc, const 
     i = HalfAddSub16(op, x, xc, y, yc, dst, n);
   } else {
     switch (mode) {
-      case ScaleMode::sat: i = Widened16<ScaleMode::sat>(op, shift, x, xc, y, yc, dst, n); break;
-      case ScaleMode::half: i = Widened16<ScaleMode::half>(op, shift, x, xc, y, yc, dst, n); break;
-      case ScaleMode::round: i = Widened16<ScaleMode::round>(op, shift, x, xc, y, yc, dst, n); break;
-      case ScaleMode::lshift: i = Widened16<ScaleMode::lshift>(op, shift, x, xc, y, yc, dst, n); break;
-      case ScaleMode::sign: i = Widened16<ScaleMode::sign>(op, shift, x, xc, y, yc, dst, n); break;
+      case ScaleMode::sat: i = General16<ScaleMode::sat>(op, shift, x, xc, y, yc, dst, n); break;
+      case ScaleMode::half: i = General16<ScaleMode::half>(op, shift, x, xc, y, yc, dst, n); break;
+      case ScaleMode::round: i = General16<ScaleMode::round>(op, shift, x, xc, y, yc, dst, n); break;
+      case ScaleMode::lshift: i = General16<ScaleMode::lshift>(op, shift, x, xc, y, yc, dst, n); break;
+      case ScaleMode::sign: i = General16<ScaleMode::sign>(op, shift, x, xc, y, yc, dst, n); break;
     }
   }
   scalar::scaled16(op, mode, shift, xc ? x : x + i, xc, yc ? y : y + i, yc, dst + i, n - i);
@@ -225,29 +282,35 @@ bool BinaryF64(ArithOp op, const double* x, bool xc, const double* y, bool yc, d
   return BinaryFloat(op, x, xc, y, yc, dst, n);
 }
 
-// Complex product on split lanes: deinterleave, four products, one
-// subtraction and one addition, interleave.
+// Complex product on interleaved lanes: with x = (a, b) and y = (c, d) per
+// pair, x * (c, c) gives (ac, bc) and swap(x) * (d, d) gives (bd, ad); the
+// second is negated in the even lanes and added. Each product is rounded
+// once and each part is one addition, as in the scalar twin.
 template <class T>
 void CMul(const T* x, bool xc, const T* y, size_t n, T* dst) {
   const hn::ScalableTag<T> d;
   const size_t N = hn::Lanes(d);
   size_t i = 0;
 #if HWY_TARGET != HWY_SCALAR
-  const auto xre = hn::Set(d, x[0]);
-  const auto xim = hn::Set(d, x[1]);
-  for (; i + N <= n; i += N) {
-    hn::Vec<decltype(d)> a, b, c, e;
-    if (xc) {
-      a = xre;
-      b = xim;
-    } else {
-      hn::LoadInterleaved2(d, x + 2 * i, a, b);
-    }
-    hn::LoadInterleaved2(d, y + 2 * i, c, e);
-    const auto re = hn::Sub(hn::Mul(a, c), hn::Mul(b, e));
-    const auto im = hn::Add(hn::Mul(a, e), hn::Mul(b, c));
-    hn::StoreInterleaved2(re, im, d, dst + 2 * i);
+  alignas(16) T pair[16 / sizeof(T)];
+  for (size_t k = 0; k < 16 / sizeof(T); k += 2) {
+    pair[k] = x[0];
+    pair[k + 1] = x[1];
   }
+  const auto xpair = hn::LoadDup128(d, pair);
+  const size_t total = 2 * n;
+  for (; i + N <= total; i += N) {
+    const auto a = xc ? xpair : hn::LoadU(d, x + i);
+    const auto b = hn::LoadU(d, y + i);
+    const auto swapped = [&] {
+      if constexpr (sizeof(T) == 4) return hn::Shuffle2301(a);
+      else return hn::Shuffle01(a);
+    }();
+    const auto p1 = hn::Mul(a, hn::DupEven(b));
+    const auto p2 = hn::Mul(swapped, hn::DupOdd(b));
+    hn::StoreU(hn::Add(p1, hn::OddEven(p2, hn::Neg(p2))), d, dst + i);
+  }
+  i /= 2;
 #else
   (void)N;
 #endif
