@@ -136,7 +136,7 @@ void check_binary_float(bool (*kernel)(ArithOp, const T*, bool, const T*, bool, 
         const bool xc = form == 2, yc = form == 1;
         for (int len : sweep_lengths({31, 33})) {
           const std::size_t n = static_cast<std::size_t>(len);
-          Guarded<T> x(n, 4), y(n, 8), got(n, 4), want(n);
+          Guarded<T> x(n, sizeof(T)), y(n, 3 * sizeof(T)), got(n, sizeof(T)), want(n);
           for (std::size_t i = 0; i < n; ++i) {
             x[i] = u(g);
             y[i] = u(g);
