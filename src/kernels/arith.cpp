@@ -283,9 +283,9 @@ bool BinaryF64(ArithOp op, const double* x, bool xc, const double* y, bool yc, d
 }
 
 // Complex product on interleaved lanes: with x = (a, b) and y = (c, d) per
-// pair, x * (c, c) gives (ac, bc) and swap(x) * (d, d) gives (bd, ad); the
-// second is negated in the even lanes and added. Each product is rounded
-// once and each part is one addition, as in the scalar twin.
+// pair, x * (c, c) gives (ac, bc) and swap(x) * (-d, d) gives (-bd, ad),
+// and the two are added. Negating a factor negates the rounded product
+// exactly, so each part is the scalar twin's ac - bd and ad + bc bit for bit.
 template <class T>
 void CMul(const T* x, bool xc, const T* y, size_t n, T* dst) {
   const hn::ScalableTag<T> d;
@@ -298,6 +298,7 @@ void CMul(const T* x, bool xc, const T* y, size_t n, T* dst) {
     pair[k + 1] = x[1];
   }
   const auto xpair = hn::LoadDup128(d, pair);
+  const auto neg_even = hn::OddEven(hn::Zero(d), hn::Set(d, T(-0.0)));  // sign bit in even lanes
   const size_t total = 2 * n;
   for (; i + N <= total; i += N) {
     const auto a = xc ? xpair : hn::LoadU(d, x + i);
@@ -307,8 +308,8 @@ void CMul(const T* x, bool xc, const T* y, size_t n, T* dst) {
       else return hn::Shuffle01(a);
     }();
     const auto p1 = hn::Mul(a, hn::DupEven(b));
-    const auto p2 = hn::Mul(swapped, hn::DupOdd(b));
-    hn::StoreU(hn::Add(p1, hn::OddEven(p2, hn::Neg(p2))), d, dst + i);
+    const auto p2 = hn::Mul(swapped, hn::Xor(hn::DupOdd(b), neg_even));
+    hn::StoreU(hn::Add(p1, p2), d, dst + i);
   }
   i /= 2;
 #else
