@@ -1,0 +1,345 @@
+// SIMD passes of the FFT engine (see fft.h), compiled once per target by
+// Highway. The radix-4 stages vectorise across butterfly indices j, so a
+// stage runs at the widest vector whose complex lanes fit in a quarter of the
+// stage; shorter stages (the first one or two of each leaf) stay on the
+// scalar twin. The stepped scheme's column pass works on groups of four
+// columns that share every twiddle, so its stages vectorise across the four
+// columns with broadcast twiddles.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "kernels/fft.cpp"
+#include "hwy/foreach_target.h"  // IWYU pragma: keep
+#include "hwy/highway.h"
+
+#include "kernels/fft.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace kels::kernels {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+#if HWY_TARGET != HWY_SCALAR
+
+// Complex arithmetic on vectors of layout S. Interleaved vectors hold
+// (re, im) pairs; split "vectors" are a pair of re and im vectors.
+template <class D, int S, bool INV>
+struct CxOps;
+
+template <class D, bool INV>
+struct CxOps<D, 2, INV> {
+  using V = hn::Vec<D>;
+  using T = hn::TFromD<D>;
+  struct C {
+    V v;
+  };
+  D d;
+  V nj;  // multiplier turning Reverse2(a) into -i*a (forward) or +i*a
+  explicit CxOps(D dd)
+      : d(dd), nj(INV ? hn::OddEven(hn::Set(dd, T(1)), hn::Set(dd, T(-1)))
+                      : hn::OddEven(hn::Set(dd, T(-1)), hn::Set(dd, T(1)))) {}
+  static constexpr size_t kStride = 2;
+  C load(const T* re, const T*, size_t i) const { return {hn::LoadU(d, re + 2 * i)}; }
+  void store(T* re, T*, size_t i, C c) const { hn::StoreU(c.v, d, re + 2 * i); }
+  C add(C a, C b) const { return {hn::Add(a.v, b.v)}; }
+  C sub(C a, C b) const { return {hn::Sub(a.v, b.v)}; }
+  C rot(C a) const { return {hn::Mul(hn::Reverse2(d, a.v), nj)}; }
+  // a * w (a * conj(w) inverse) with per-lane twiddles w in the same layout.
+  C mul(C a, C w) const { return mul_b(a, hn::DupEven(w.v), hn::DupOdd(w.v)); }
+  // a * w with w given as broadcast real and imaginary parts.
+  C mul_b(C a, V wr, V wi) const {
+    return {hn::NegMulAdd(rot(a).v, wi, hn::Mul(a.v, wr))};
+  }
+  C scale(C a, V s) const { return {hn::Mul(a.v, s)}; }
+};
+
+template <class D, bool INV>
+struct CxOps<D, 1, INV> {
+  using V = hn::Vec<D>;
+  using T = hn::TFromD<D>;
+  struct C {
+    V r, i;
+  };
+  D d;
+  explicit CxOps(D dd) : d(dd) {}
+  static constexpr size_t kStride = 1;
+  C load(const T* re, const T* im, size_t i) const { return {hn::LoadU(d, re + i), hn::LoadU(d, im + i)}; }
+  void store(T* re, T* im, size_t i, C c) const {
+    hn::StoreU(c.r, d, re + i);
+    hn::StoreU(c.i, d, im + i);
+  }
+  C add(C a, C b) const { return {hn::Add(a.r, b.r), hn::Add(a.i, b.i)}; }
+  C sub(C a, C b) const { return {hn::Sub(a.r, b.r), hn::Sub(a.i, b.i)}; }
+  C rot(C a) const { return INV ? C{hn::Neg(a.i), a.r} : C{a.i, hn::Neg(a.r)}; }
+  C mul(C a, C w) const { return mul_b(a, w.r, w.i); }
+  C mul_b(C a, V wr, V wi) const {
+    if (INV) {
+      return {hn::MulAdd(a.i, wi, hn::Mul(a.r, wr)), hn::NegMulAdd(a.r, wi, hn::Mul(a.i, wr))};
+    }
+    return {hn::NegMulAdd(a.i, wi, hn::Mul(a.r, wr)), hn::MulAdd(a.r, wi, hn::Mul(a.i, wr))};
+  }
+  C scale(C a, V s) const { return {hn::Mul(a.r, s), hn::Mul(a.i, s)}; }
+};
+
+template <class O, class C>
+HWY_INLINE void Bfly4(const O& o, C& x0, C& x1, C& x2, C& x3) {
+  const C t0 = o.add(x0, x1), t1 = o.sub(x0, x1);
+  const C t2 = o.add(x2, x3), t3 = o.rot(o.sub(x2, x3));
+  x0 = o.add(t0, t2);
+  x2 = o.sub(t0, t2);
+  x1 = o.add(t1, t3);
+  x3 = o.sub(t1, t3);
+}
+
+template <int S, bool INV, class D, class T>
+void Radix4Rows(D d, T* HWY_RESTRICT re, T* HWY_RESTRICT im, size_t n, size_t L, const T* tw) {
+  const CxOps<D, S, INV> o(d);
+  const size_t q = L / 4;
+  const size_t step = hn::Lanes(d) / S;
+  const T* twi = scalar::block_im<T, S>(tw, 3 * q);
+  for (size_t b = 0; b < n; b += L) {
+    for (size_t j = 0; j < q; j += step) {
+      const size_t i = b + j;
+      auto x0 = o.load(re, im, i);
+      auto x1 = o.mul(o.load(re, im, i + q), o.load(tw, twi, q + j));
+      auto x2 = o.mul(o.load(re, im, i + 2 * q), o.load(tw, twi, j));
+      auto x3 = o.mul(o.load(re, im, i + 3 * q), o.load(tw, twi, 2 * q + j));
+      Bfly4(o, x0, x1, x2, x3);
+      o.store(re, im, i, x0);
+      o.store(re, im, i + q, x1);
+      o.store(re, im, i + 2 * q, x2);
+      o.store(re, im, i + 3 * q, x3);
+    }
+  }
+}
+
+template <class T, int S>
+struct VecPasses : scalar::Passes<T, S> {
+  using Base = scalar::Passes<T, S>;
+  // Group width in T units of one layout half: 8 interleaved values, or 4
+  // real and 4 imaginary values.
+  static constexpr size_t kGroup = S == 2 ? 8 : 4;
+  using DG = hn::CappedTag<T, kGroup>;
+
+  template <bool INV>
+  static void radix4_t(T* re, T* im, size_t n, size_t L, const T* tw) {
+    const size_t q = L / 4;
+    const hn::ScalableTag<T> df;
+    const hn::CappedTag<T, 4> d4;
+    const hn::CappedTag<T, 2> d2;
+    if (q * S >= hn::Lanes(df)) {
+      Radix4Rows<S, INV>(df, re, im, n, L, tw);
+    } else if (q * S >= hn::Lanes(d4) && hn::Lanes(d4) >= size_t(S)) {
+      Radix4Rows<S, INV>(d4, re, im, n, L, tw);
+    } else if (q * S >= hn::Lanes(d2) && hn::Lanes(d2) >= size_t(S)) {
+      Radix4Rows<S, INV>(d2, re, im, n, L, tw);
+    } else {
+      Base::radix4_range(re, im, n, L, tw, INV, 0);
+    }
+  }
+  static void radix4(T* re, T* im, size_t n, size_t L, const T* tw, bool inv) {
+    if (inv) radix4_t<true>(re, im, n, L, tw);
+    else radix4_t<false>(re, im, n, L, tw);
+  }
+
+  template <bool INV>
+  static void combine2_t(T* re, T* im, size_t h, const T* tab, size_t c) {
+    const hn::ScalableTag<T> d;
+    const CxOps<decltype(d), S, INV> o(d);
+    const size_t step = hn::Lanes(d) / S;
+    const T* tabi = scalar::block_im<T, S>(tab, c);
+    for (size_t q = 0; q < h; q += step) {
+      const auto e = o.load(re, im, q);
+      const auto od = o.mul(o.load(re, im, q + h), o.load(tab, tabi, q));
+      o.store(re, im, q, o.add(e, od));
+      o.store(re, im, q + h, o.sub(e, od));
+    }
+  }
+  static void combine2(T* re, T* im, size_t h, const T* tab, size_t c, size_t stride, bool inv) {
+    const hn::ScalableTag<T> d;
+    if (stride != 1 || h * S < hn::Lanes(d)) {
+      Base::combine2(re, im, h, tab, c, stride, inv);
+    } else if (inv) {
+      combine2_t<true>(re, im, h, tab, c);
+    } else {
+      combine2_t<false>(re, im, h, tab, c);
+    }
+  }
+
+  static void scale(T* re, T* im, size_t n, T s) {
+    const hn::ScalableTag<T> d;
+    const size_t NL = hn::Lanes(d);
+    const auto vs = hn::Set(d, s);
+    auto run = [&](T* p, size_t m) {
+      size_t i = 0;
+      for (; i + NL <= m; i += NL) hn::StoreU(hn::Mul(hn::LoadU(d, p + i), vs), d, p + i);
+      for (; i < m; ++i) p[i] *= s;
+    };
+    if (S == 2) {
+      run(re, 2 * n);
+    } else {
+      run(re, n);
+      run(im, n);
+    }
+  }
+
+  // ---- Column pass: group b of the work buffer at work + 8b.
+  // Row pointers of the four columns q0..q0+3 in row b, as a "group" in the
+  // data's own layout.
+  template <bool INV>
+  static void gather_t(const T* re, const T* im, size_t M, size_t K, size_t g, const T* merge,
+                       T* work) {
+    const DG d;
+    const CxOps<DG, S, INV> o(d);
+    const size_t NL = hn::Lanes(d);
+    for (size_t b = 0; b < K; ++b) {
+      const size_t e = 4 * g + M * b;  // first element of the row's group
+      const T* tw = merge + 8 * (g * K + b);
+      T* w = work + 8 * b;
+      for (size_t off = 0; off < kGroup; off += NL) {
+        typename CxOps<DG, S, INV>::C x, t;
+        if (S == 2) {
+          x = o.load(re + 2 * e + off, nullptr, 0);
+          t = o.load(tw + off, nullptr, 0);
+          o.store(w + off, nullptr, 0, o.mul(x, t));
+        } else {
+          x = o.load(re + e + off, im + e + off, 0);
+          t = o.load(tw + off, tw + 4 + off, 0);
+          o.store(w + off, w + 4 + off, 0, o.mul(x, t));
+        }
+      }
+    }
+  }
+  static void gather(const T* re, const T* im, size_t M, size_t K, size_t g, const T* merge,
+                     T* work, bool inv) {
+    if (inv) gather_t<true>(re, im, M, K, g, merge, work);
+    else gather_t<false>(re, im, M, K, g, merge, work);
+  }
+  static void scatter(T* re, T* im, size_t M, size_t K, size_t g, T* work) {
+    const DG d;
+    const size_t NL = hn::Lanes(d);
+    for (size_t b = 0; b < K; ++b) {
+      const size_t e = 4 * g + M * b;
+      const T* w = work + 8 * b;
+      for (size_t off = 0; off < kGroup; off += NL) {
+        if (S == 2) {
+          hn::StoreU(hn::LoadU(d, w + off), d, re + 2 * e + off);
+        } else {
+          hn::StoreU(hn::LoadU(d, w + off), d, re + e + off);
+          hn::StoreU(hn::LoadU(d, w + 4 + off), d, im + e + off);
+        }
+      }
+    }
+  }
+
+  // Loads/stores of the part `off` of group b.
+  template <class O>
+  static auto gl(const O& o, T* w, size_t b, size_t off) {
+    return S == 2 ? o.load(w + 8 * b + off, nullptr, 0) : o.load(w + 8 * b + off, w + 8 * b + 4 + off, 0);
+  }
+  template <class O, class C>
+  static void gs(const O& o, T* w, size_t b, size_t off, C c) {
+    if (S == 2) o.store(w + 8 * b + off, nullptr, 0, c);
+    else o.store(w + 8 * b + off, w + 8 * b + 4 + off, 0, c);
+  }
+
+  static void col_radix2(T* w, size_t K) {
+    const DG d;
+    const CxOps<DG, S, false> o(d);
+    for (size_t b = 0; b < K; b += 2)
+      for (size_t off = 0; off < kGroup; off += hn::Lanes(d)) {
+        const auto x = gl(o, w, b, off), y = gl(o, w, b + 1, off);
+        gs(o, w, b, off, o.add(x, y));
+        gs(o, w, b + 1, off, o.sub(x, y));
+      }
+  }
+  template <bool INV>
+  static void col_radix4_first_t(T* w, size_t K) {
+    const DG d;
+    const CxOps<DG, S, INV> o(d);
+    for (size_t b = 0; b < K; b += 4)
+      for (size_t off = 0; off < kGroup; off += hn::Lanes(d)) {
+        auto x0 = gl(o, w, b, off), x1 = gl(o, w, b + 1, off);
+        auto x2 = gl(o, w, b + 2, off), x3 = gl(o, w, b + 3, off);
+        Bfly4(o, x0, x1, x2, x3);
+        gs(o, w, b, off, x0);
+        gs(o, w, b + 1, off, x1);
+        gs(o, w, b + 2, off, x2);
+        gs(o, w, b + 3, off, x3);
+      }
+  }
+  static void col_radix4_first(T* w, size_t K, bool inv) {
+    if (inv) col_radix4_first_t<true>(w, K);
+    else col_radix4_first_t<false>(w, K);
+  }
+  template <bool INV>
+  static void col_radix4_t(T* w, size_t K, size_t L, const T* tw) {
+    const DG d;
+    const CxOps<DG, S, INV> o(d);
+    const size_t q = L / 4;
+    const T* twi = scalar::block_im<T, S>(tw, 3 * q);
+    for (size_t b0 = 0; b0 < K; b0 += L)
+      for (size_t j = 0; j < q; ++j) {
+        const auto w1r = hn::Set(d, tw[S * (q + j)]), w1i = hn::Set(d, twi[S * (q + j)]);
+        const auto w2r = hn::Set(d, tw[S * j]), w2i = hn::Set(d, twi[S * j]);
+        const auto w3r = hn::Set(d, tw[S * (2 * q + j)]), w3i = hn::Set(d, twi[S * (2 * q + j)]);
+        const size_t b = b0 + j;
+        for (size_t off = 0; off < kGroup; off += hn::Lanes(d)) {
+          auto x0 = gl(o, w, b, off);
+          auto x1 = o.mul_b(gl(o, w, b + q, off), w1r, w1i);
+          auto x2 = o.mul_b(gl(o, w, b + 2 * q, off), w2r, w2i);
+          auto x3 = o.mul_b(gl(o, w, b + 3 * q, off), w3r, w3i);
+          Bfly4(o, x0, x1, x2, x3);
+          gs(o, w, b, off, x0);
+          gs(o, w, b + q, off, x1);
+          gs(o, w, b + 2 * q, off, x2);
+          gs(o, w, b + 3 * q, off, x3);
+        }
+      }
+  }
+  static void col_radix4(T* w, size_t K, size_t L, const T* tw, bool inv) {
+    if (inv) col_radix4_t<true>(w, K, L, tw);
+    else col_radix4_t<false>(w, K, L, tw);
+  }
+};
+
+template <class T, int S>
+void Run(const FftPlan<T>& p, const FftArgs<T>& a) {
+  scalar::Engine<T, S, VecPasses<T, S>>{p, a}.run();
+}
+
+#else  // HWY_SCALAR: the portable twin
+
+template <class T, int S>
+void Run(const FftPlan<T>& p, const FftArgs<T>& a) {
+  scalar::fft<T, S>(p, a);
+}
+
+#endif
+
+void FftInterleavedF32(const FftPlan<float>& p, const FftArgs<float>& a) { Run<float, 2>(p, a); }
+void FftInterleavedF64(const FftPlan<double>& p, const FftArgs<double>& a) { Run<double, 2>(p, a); }
+void FftSplitF32(const FftPlan<float>& p, const FftArgs<float>& a) { Run<float, 1>(p, a); }
+void FftSplitF64(const FftPlan<double>& p, const FftArgs<double>& a) { Run<double, 1>(p, a); }
+
+}  // namespace HWY_NAMESPACE
+}  // namespace kels::kernels
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace kels::kernels {
+
+HWY_EXPORT(FftInterleavedF32);
+HWY_EXPORT(FftInterleavedF64);
+HWY_EXPORT(FftSplitF32);
+HWY_EXPORT(FftSplitF64);
+
+void fft_interleaved(const FftPlan<float>& p, const FftArgs<float>& a) {
+  HWY_DYNAMIC_DISPATCH(FftInterleavedF32)(p, a);
+}
+void fft_interleaved(const FftPlan<double>& p, const FftArgs<double>& a) {
+  HWY_DYNAMIC_DISPATCH(FftInterleavedF64)(p, a);
+}
+void fft_split(const FftPlan<float>& p, const FftArgs<float>& a) { HWY_DYNAMIC_DISPATCH(FftSplitF32)(p, a); }
+void fft_split(const FftPlan<double>& p, const FftArgs<double>& a) { HWY_DYNAMIC_DISPATCH(FftSplitF64)(p, a); }
+
+}  // namespace kels::kernels
+#endif  // HWY_ONCE
