@@ -140,6 +140,110 @@ struct VecPasses : scalar::Passes<T, S> {
     else radix4_t<false>(re, im, n, L, tw);
   }
 
+  // ---- First pass fused with the permutation (interleaved layout). Lane i
+  // of a vector belongs to output block rev(r + i); the blocks' elements are
+  // regrouped by 64-bit interleaves (one complex float per 64-bit unit) and
+  // stored 16 bytes at a time. Double precision uses one complex per vector.
+  template <class D, class V>
+  static void store_blocks(D d, T* dst, const size_t* m, V y0, V y1, V y2, V y3, bool four) {
+    if constexpr (sizeof(T) == 8) {
+      (void)d;
+      hn::StoreU(y0, d, dst + 2 * m[0]);
+      hn::StoreU(y1, d, dst + 2 * m[0] + 2);
+      if (four) {
+        hn::StoreU(y2, d, dst + 2 * m[0] + 4);
+        hn::StoreU(y3, d, dst + 2 * m[0] + 6);
+      }
+    } else {
+      const hn::Repartition<uint64_t, D> du;
+      const hn::Half<decltype(du)> dh;
+      auto* out = reinterpret_cast<uint64_t*>(dst);  // one unit per complex
+      const auto a0 = hn::BitCast(du, y0), a1 = hn::BitCast(du, y1);
+      const auto t0 = hn::InterleaveLower(du, a0, a1), t1 = hn::InterleaveUpper(du, a0, a1);
+      if (hn::Lanes(du) == 2) {
+        if (four) {
+          const auto a2 = hn::BitCast(du, y2), a3 = hn::BitCast(du, y3);
+          const auto t2 = hn::InterleaveLower(du, a2, a3), t3 = hn::InterleaveUpper(du, a2, a3);
+          hn::StoreU(t0, du, out + m[0]);
+          hn::StoreU(t2, du, out + m[0] + 2);
+          hn::StoreU(t1, du, out + m[1]);
+          hn::StoreU(t3, du, out + m[1] + 2);
+        } else {
+          hn::StoreU(t0, du, out + m[0]);
+          hn::StoreU(t1, du, out + m[1]);
+        }
+      } else {
+        // 256-bit: 128-bit halves hold lanes (0, 2) and (1, 3).
+        const auto t0l = hn::LowerHalf(t0), t0u = hn::UpperHalf(dh, t0);
+        const auto t1l = hn::LowerHalf(t1), t1u = hn::UpperHalf(dh, t1);
+        if (four) {
+          const auto a2 = hn::BitCast(du, y2), a3 = hn::BitCast(du, y3);
+          const auto t2 = hn::InterleaveLower(du, a2, a3), t3 = hn::InterleaveUpper(du, a2, a3);
+          hn::StoreU(t0l, dh, out + m[0]);
+          hn::StoreU(hn::LowerHalf(t2), dh, out + m[0] + 2);
+          hn::StoreU(t1l, dh, out + m[1]);
+          hn::StoreU(hn::LowerHalf(t3), dh, out + m[1] + 2);
+          hn::StoreU(t0u, dh, out + m[2]);
+          hn::StoreU(hn::UpperHalf(dh, t2), dh, out + m[2] + 2);
+          hn::StoreU(t1u, dh, out + m[3]);
+          hn::StoreU(hn::UpperHalf(dh, t3), dh, out + m[3] + 2);
+        } else {
+          hn::StoreU(t0l, dh, out + m[0]);
+          hn::StoreU(t1l, dh, out + m[1]);
+          hn::StoreU(t0u, dh, out + m[2]);
+          hn::StoreU(t1u, dh, out + m[3]);
+        }
+      }
+    }
+  }
+
+  // Tag of the fused first pass: 128 or 256 bits of complex floats, one
+  // complex double.
+  using DF = hn::CappedTag<T, sizeof(T) == 4 ? 8 : 2>;
+
+  template <bool INV>
+  static void first4_fused_t(const T* src, T* dst, size_t n, const scalar::BitRev& rev) {
+    const DF d;
+    const CxOps<DF, 2, INV> o(d);
+    const size_t V = hn::Lanes(d) / 2, q = n / 4;
+    size_t r = 0;
+    if (q >= V) {
+      for (; r < q; r += V) {
+        size_t m[4];
+        for (size_t i = 0; i < V; ++i) m[i] = rev(r + i);
+        auto x0 = o.load(src, nullptr, r), x1 = o.load(src, nullptr, r + 2 * q);
+        auto x2 = o.load(src, nullptr, r + q), x3 = o.load(src, nullptr, r + 3 * q);
+        Bfly4(o, x0, x1, x2, x3);
+        store_blocks(d, dst, m, x0.v, x1.v, x2.v, x3.v, true);
+      }
+    }
+    Base::first4_fused(src, src + 1, dst, dst + 1, n, rev, INV, r);
+  }
+  static void first4_fused(const T* sre, const T* sim, T* dre, T* dim, size_t n,
+                           const scalar::BitRev& rev, bool inv) {
+    if (S != 2) return Base::first4_fused(sre, sim, dre, dim, n, rev, inv);
+    if (inv) first4_fused_t<true>(sre, dre, n, rev);
+    else first4_fused_t<false>(sre, dre, n, rev);
+  }
+  static void first2_fused(const T* sre, const T* sim, T* dre, T* dim, size_t n,
+                           const scalar::BitRev& rev) {
+    if (S != 2) return Base::first2_fused(sre, sim, dre, dim, n, rev);
+    const DF d;
+    const CxOps<DF, 2, false> o(d);
+    const size_t V = hn::Lanes(d) / 2, h = n / 2;
+    size_t r = 0;
+    if (h >= V) {
+      for (; r < h; r += V) {
+        size_t m[4];
+        for (size_t i = 0; i < V; ++i) m[i] = rev(r + i);
+        const auto x0 = o.load(sre, nullptr, r), x1 = o.load(sre, nullptr, r + h);
+        const auto y0 = o.add(x0, x1), y1 = o.sub(x0, x1);
+        store_blocks(d, dre, m, y0.v, y1.v, y1.v, y1.v, false);
+      }
+    }
+    Base::first2_fused(sre, sim, dre, dim, n, rev, r);
+  }
+
   template <bool INV>
   static void combine2_t(T* re, T* im, size_t h, const T* tab, size_t c) {
     const hn::ScalableTag<T> d;

@@ -123,6 +123,18 @@ inline T* grp_re(T* w, std::size_t b, int c) { return w + 8 * b + (S == 2 ? 2 * 
 template <class T, int S>
 inline std::size_t grp_im_off() { return S == 2 ? 1 : 4; }
 
+// Bit reversal of `order` bits through the half table of ceil(order/2) bits.
+struct BitRev {
+  const std::uint32_t* tab;
+  int lo_bits, hi_bits;  // lo_bits = floor(order/2), hi_bits = ceil(order/2)
+  BitRev(const std::uint32_t* t, int order) : tab(t), lo_bits(order / 2), hi_bits(order - order / 2) {}
+  std::uint32_t lo(std::size_t x) const { return lo_bits == hi_bits ? tab[x] : tab[x] >> 1; }
+  std::size_t operator()(std::size_t p) const {
+    const std::size_t l = p & ((std::size_t(1) << lo_bits) - 1), h = p >> lo_bits;
+    return (std::size_t(lo(l)) << hi_bits) | tab[h];
+  }
+};
+
 template <class T, int S>
 struct Passes {
   // Radix-2 pass on adjacent pairs of n elements (first pass of odd orders).
@@ -157,6 +169,35 @@ struct Passes {
       st<T, S>(re, im, i + 1, x1);
       st<T, S>(re, im, i + 2, x2);
       st<T, S>(re, im, i + 3, x3);
+    }
+  }
+
+  // The first pass fused with the bit-reversal permutation: output block m
+  // (4 elements) holds the 4-point transform of src[r + {0, N/2, N/4, 3N/4}],
+  // r = rev(4m) / 4; iterated over r so the reads run sequentially.
+  static void first4_fused(const T* sre, const T* sim, T* dre, T* dim, std::size_t n,
+                           const BitRev& rev, bool inv, std::size_t r0 = 0) {
+    const std::size_t q = n / 4;
+    for (std::size_t r = r0; r < q; ++r) {
+      const std::size_t m4 = rev(r);
+      Cx<T> x0 = ld<T, S>(sre, sim, r), x1 = ld<T, S>(sre, sim, r + 2 * q);
+      Cx<T> x2 = ld<T, S>(sre, sim, r + q), x3 = ld<T, S>(sre, sim, r + 3 * q);
+      bfly4(x0, x1, x2, x3, inv);
+      st<T, S>(dre, dim, m4, x0);
+      st<T, S>(dre, dim, m4 + 1, x1);
+      st<T, S>(dre, dim, m4 + 2, x2);
+      st<T, S>(dre, dim, m4 + 3, x3);
+    }
+  }
+  // Same for the radix-2 first pass of odd orders: block 2m = rev(r).
+  static void first2_fused(const T* sre, const T* sim, T* dre, T* dim, std::size_t n,
+                           const BitRev& rev, std::size_t r0 = 0) {
+    const std::size_t h = n / 2;
+    for (std::size_t r = r0; r < h; ++r) {
+      const std::size_t m2 = rev(r);
+      const Cx<T> a = ld<T, S>(sre, sim, r), b = ld<T, S>(sre, sim, r + h);
+      st<T, S>(dre, dim, m2, add(a, b));
+      st<T, S>(dre, dim, m2 + 1, sub(a, b));
     }
   }
 
@@ -284,39 +325,48 @@ struct Passes {
   }
 };
 
-// Bit reversal of `bits` bits through the half table of ceil(order/2) bits.
-struct BitRev {
-  const std::uint32_t* tab;
-  int lo_bits, hi_bits;  // lo_bits = floor(order/2), hi_bits = ceil(order/2)
-  std::uint32_t lo(std::size_t x) const {
-    return lo_bits == hi_bits ? tab[x] : tab[x] >> 1;
-  }
-};
+inline std::size_t reverse_small(std::size_t x, int bits) {
+  std::size_t r = 0;
+  for (int i = 0; i < bits; ++i) r |= ((x >> i) & 1u) << (bits - 1 - i);
+  return r;
+}
 
-// dst[p] = src[rev(p)] for elements of type E; in place (swaps) when
-// src == dst.
+// dst[p] = src[rev(p)] for elements of type E, in place when src == dst.
+// The index is split as (a, mid, b) with t-bit a and b, so that
+// rev(a, mid, b) = (rev b, rev mid, rev a): the tile of all (a, b) for one
+// mid and the tile for rev(mid) are read into two small buffers and written
+// back exchanged, touching 2^t-element runs instead of single elements.
 template <class E>
-void permute(const E* src, E* dst, int order, const std::uint32_t* tab) {
-  const int l = order / 2, h = order - l;
-  const BitRev br{tab, l, h};
-  const std::size_t nlo = std::size_t(1) << l, nhi = std::size_t(1) << h;
-  if (src == dst) {
-    for (std::size_t hi = 0; hi < nhi; ++hi)
-      for (std::size_t lo = 0; lo < nlo; ++lo) {
-        const std::size_t p = (hi << l) | lo;
-        const std::size_t r = (std::size_t(br.lo(lo)) << h) | tab[hi];
-        if (r > p) {
-          E t;
-          std::memcpy(&t, dst + p, sizeof(E));
-          std::memcpy(dst + p, dst + r, sizeof(E));
-          std::memcpy(dst + r, &t, sizeof(E));
-        }
-      }
-    return;
-  }
-  for (std::size_t lo = 0; lo < nlo; ++lo) {
-    const E* s = src + (std::size_t(br.lo(lo)) << h);
-    for (std::size_t hi = 0; hi < nhi; ++hi) std::memcpy(dst + ((hi << l) | lo), s + tab[hi], sizeof(E));
+void permute(const E* src, E* dst, int order) {
+  const int t = order >= 8 ? 4 : order / 2;
+  const int mb = order - 2 * t;
+  const std::size_t T = std::size_t(1) << t, nmid = std::size_t(1) << mb;
+  std::size_t rt[16];
+  for (std::size_t i = 0; i < T; ++i) rt[i] = reverse_small(i, t);
+  E b1[256], b2[256];
+  auto load = [&](E* buf, std::size_t mid) {
+    for (std::size_t a = 0; a < T; ++a)
+      std::memcpy(buf + a * T, src + ((a << (mb + t)) | (mid << t)), T * sizeof(E));
+  };
+  // Row a of the target tile: dst(a, mid, b) = old(rev b, rmid, rev a).
+  auto store = [&](const E* buf, std::size_t mid) {
+    for (std::size_t a = 0; a < T; ++a) {
+      E* d = dst + ((a << (mb + t)) | (mid << t));
+      const std::size_t ra = rt[a];
+      for (std::size_t b = 0; b < T; ++b) std::memcpy(d + b, buf + rt[b] * T + ra, sizeof(E));
+    }
+  };
+  for (std::size_t mid = 0; mid < nmid; ++mid) {
+    const std::size_t rmid = reverse_small(mid, mb);
+    if (rmid < mid) continue;
+    load(b1, mid);
+    if (rmid == mid) {
+      store(b1, mid);
+    } else {
+      load(b2, rmid);
+      store(b2, mid);
+      store(b1, rmid);
+    }
   }
 }
 
@@ -332,53 +382,48 @@ struct Engine {
   const FftArgs<T>& a;
 
   void run() {
-    permute_input();
+    const std::size_t n = std::size_t(1) << p.order;
+    const T* sr = a.src_re;
+    const T* si = a.src_im;
+    // Orders up to the leaf size copy an in-place input to the work buffer
+    // first, so the permutation can be fused with the first pass.
+    const bool small = p.order <= p.leaf && a.work != nullptr;
+    if (small && S == 2 && sr == a.dst_re) {
+      std::memcpy(a.work, sr, 2 * n * sizeof(T));
+      sr = a.work;
+      si = a.work + 1;
+    } else if (small && S == 1) {
+      if (sr == a.dst_re) {
+        std::memcpy(a.work, sr, n * sizeof(T));
+        sr = a.work;
+      }
+      if (si == a.dst_im) {
+        std::memcpy(a.work + n, si, n * sizeof(T));
+        si = a.work + n;
+      }
+    }
+    const BitRev rev(p.rev, p.order);
+    if (sr != a.dst_re && si != a.dst_im) {
+      if (p.leaf & 1) P::first2_fused(sr, si, a.dst_re, a.dst_im, n, rev);
+      else P::first4_fused(sr, si, a.dst_re, a.dst_im, n, rev, a.inverse);
+    } else {
+      if (S == 2) {
+        permute(reinterpret_cast<const Pair<T>*>(sr), reinterpret_cast<Pair<T>*>(a.dst_re), p.order);
+      } else {
+        permute(sr, a.dst_re, p.order);
+        permute(si, a.dst_im, p.order);
+      }
+      if (p.leaf & 1) P::radix2(a.dst_re, a.dst_im, n);
+      else P::radix4_first(a.dst_re, a.dst_im, n, a.inverse);
+    }
     block(a.dst_re, a.dst_im, p.order, 0);
   }
 
-  void permute_input() {
-    const std::size_t n = std::size_t(1) << p.order;
-    // Orders up to the combined-kernel range copy an in-place input to the
-    // work buffer first, so the permutation reads sequentially-written data
-    // instead of chasing swap pairs.
-    const bool small = p.order <= p.leaf && a.work != nullptr;
-    if (S == 2) {
-      using E = Pair<T>;
-      const E* s = reinterpret_cast<const E*>(a.src_re);
-      E* d = reinterpret_cast<E*>(a.dst_re);
-      if (s == d && small) {
-        std::memcpy(a.work, s, n * sizeof(E));
-        s = reinterpret_cast<const E*>(a.work);
-      }
-      permute(s, d, p.order, p.rev);
-    } else {
-      const T* sr = a.src_re;
-      const T* si = a.src_im;
-      if (small && (sr == a.dst_re || si == a.dst_im)) {
-        if (sr == a.dst_re) {
-          std::memcpy(a.work, sr, n * sizeof(T));
-          sr = a.work;
-        }
-        if (si == a.dst_im) {
-          std::memcpy(a.work + n, si, n * sizeof(T));
-          si = a.work + n;
-        }
-      }
-      permute(sr, a.dst_re, p.order, p.rev);
-      permute(si, a.dst_im, p.order, p.rev);
-    }
-  }
-
+  // A leaf of order n: the remaining radix-4 stages (the first pass ran over
+  // the whole array in run()), then the scaling.
   void leaf(T* re, T* im, int n) {
     const std::size_t N = std::size_t(1) << n;
-    std::size_t L;
-    if (n & 1) {
-      P::radix2(re, im, N);
-      L = 8;
-    } else {
-      P::radix4_first(re, im, N, a.inverse);
-      L = 16;
-    }
+    std::size_t L = (n & 1) ? 8 : 16;
     for (const T* tw = p.first; L <= N; L *= 4) {
       P::radix4(re, im, N, L, tw, a.inverse);
       tw += 2 * (3 * L / 4);
