@@ -122,7 +122,7 @@ struct VecPasses : scalar::Passes<T, S> {
   template <bool INV>
   static void radix4_t(T* re, T* im, size_t n, size_t L, const T* tw) {
     const size_t q = L / 4;
-    const hn::ScalableTag<T> df;
+    const hn::CappedTag<T, 32 / sizeof(T)> df;
     const hn::CappedTag<T, 4> d4;
     const hn::CappedTag<T, 2> d2;
     if (q * S >= hn::Lanes(df)) {
@@ -244,27 +244,48 @@ struct VecPasses : scalar::Passes<T, S> {
     Base::first2_fused(sre, sim, dre, dim, n, rev, r);
   }
 
+  // Twiddles tab[S * stride * q] for the lanes q.. of a vector (stride 1 or
+  // 2; the two-level scheme's inner combine reads every other entry).
+  template <class D, class O>
+  static auto load_tw(D d, const O& o, const T* tab, const T* tabi, size_t q, size_t stride) {
+    if (stride == 1 || (S == 2 && hn::Lanes(d) == 2)) return o.load(tab, tabi, q * stride);
+    using C = typename O::C;
+    if constexpr (S == 2) {
+      const hn::Repartition<uint64_t, D> du;
+      const auto* t = reinterpret_cast<const uint64_t*>(tab) + 2 * q;
+      return C{hn::BitCast(d, hn::ConcatEven(du, hn::LoadU(du, t + hn::Lanes(du)), hn::LoadU(du, t)))};
+    } else {
+      const size_t NL = hn::Lanes(d);
+      return C{hn::ConcatEven(d, hn::LoadU(d, tab + 2 * q + NL), hn::LoadU(d, tab + 2 * q)),
+               hn::ConcatEven(d, hn::LoadU(d, tabi + 2 * q + NL), hn::LoadU(d, tabi + 2 * q))};
+    }
+  }
+
+  // Double-precision interleaved data run one complex per 128-bit vector
+  // here, which makes any stride a plain load.
+  using DC = hn::CappedTag<T, sizeof(T) == 8 && S == 2 ? 2 : 32 / sizeof(T)>;
+
   template <bool INV>
-  static void combine2_t(T* re, T* im, size_t h, const T* tab, size_t c) {
-    const hn::ScalableTag<T> d;
-    const CxOps<decltype(d), S, INV> o(d);
+  static void combine2_t(T* re, T* im, size_t h, const T* tab, size_t c, size_t stride) {
+    const DC d;
+    const CxOps<DC, S, INV> o(d);
     const size_t step = hn::Lanes(d) / S;
     const T* tabi = scalar::block_im<T, S>(tab, c);
     for (size_t q = 0; q < h; q += step) {
       const auto e = o.load(re, im, q);
-      const auto od = o.mul(o.load(re, im, q + h), o.load(tab, tabi, q));
+      const auto od = o.mul(o.load(re, im, q + h), load_tw(d, o, tab, tabi, q, stride));
       o.store(re, im, q, o.add(e, od));
       o.store(re, im, q + h, o.sub(e, od));
     }
   }
   static void combine2(T* re, T* im, size_t h, const T* tab, size_t c, size_t stride, bool inv) {
-    const hn::ScalableTag<T> d;
-    if (stride != 1 || h * S < hn::Lanes(d)) {
+    const DC d;
+    if (stride > 2 || h * S < 2 * hn::Lanes(d)) {
       Base::combine2(re, im, h, tab, c, stride, inv);
     } else if (inv) {
-      combine2_t<true>(re, im, h, tab, c);
+      combine2_t<true>(re, im, h, tab, c, stride);
     } else {
-      combine2_t<false>(re, im, h, tab, c);
+      combine2_t<false>(re, im, h, tab, c, stride);
     }
   }
 
