@@ -111,6 +111,52 @@ void Radix4Rows(D d, T* HWY_RESTRICT re, T* HWY_RESTRICT im, size_t n, size_t L,
   }
 }
 
+// Stages L and 4L in one pass: sixteen vectors of butterfly index j (lanes
+// j..j+V-1) are loaded, the four radix-4 butterflies of stage L and the four
+// of stage 4L run in registers, and the sixteen are stored.
+template <int S, bool INV, class D, class T>
+void Radix4x2Rows(D d, T* HWY_RESTRICT re, T* HWY_RESTRICT im, size_t n, size_t L, const T* tw,
+                  const T* tw4) {
+  const CxOps<D, S, INV> o(d);
+  const size_t q = L / 4;
+  const size_t step = hn::Lanes(d) / S;
+  const T* twi = scalar::block_im<T, S>(tw, 3 * q);
+  const T* tw4i = scalar::block_im<T, S>(tw4, 3 * L);
+  using C = typename CxOps<D, S, INV>::C;
+  for (size_t b = 0; b < n; b += 4 * L) {
+    for (size_t j = 0; j < q; j += step) {
+      const size_t i = b + j;
+      C x[16];
+      const C w1 = o.load(tw, twi, q + j), w2 = o.load(tw, twi, j), w3 = o.load(tw, twi, 2 * q + j);
+      for (size_t g = 0; g < 4; ++g) {
+        C& a0 = x[4 * g];
+        C& a1 = x[4 * g + 1];
+        C& a2 = x[4 * g + 2];
+        C& a3 = x[4 * g + 3];
+        const size_t e = i + g * L;
+        a0 = o.load(re, im, e);
+        a1 = o.mul(o.load(re, im, e + q), w1);
+        a2 = o.mul(o.load(re, im, e + 2 * q), w2);
+        a3 = o.mul(o.load(re, im, e + 3 * q), w3);
+        Bfly4(o, a0, a1, a2, a3);
+      }
+      for (size_t g = 0; g < 4; ++g) {
+        const size_t jj = j + g * q;
+        C a0 = x[g];
+        C a1 = o.mul(x[g + 4], o.load(tw4, tw4i, L + jj));
+        C a2 = o.mul(x[g + 8], o.load(tw4, tw4i, jj));
+        C a3 = o.mul(x[g + 12], o.load(tw4, tw4i, 2 * L + jj));
+        Bfly4(o, a0, a1, a2, a3);
+        const size_t e = i + g * q;
+        o.store(re, im, e, a0);
+        o.store(re, im, e + L, a1);
+        o.store(re, im, e + 2 * L, a2);
+        o.store(re, im, e + 3 * L, a3);
+      }
+    }
+  }
+}
+
 template <class T, int S>
 struct VecPasses : scalar::Passes<T, S> {
   using Base = scalar::Passes<T, S>;
@@ -138,6 +184,27 @@ struct VecPasses : scalar::Passes<T, S> {
   static void radix4(T* re, T* im, size_t n, size_t L, const T* tw, bool inv) {
     if (inv) radix4_t<true>(re, im, n, L, tw);
     else radix4_t<false>(re, im, n, L, tw);
+  }
+
+  template <bool INV>
+  static void radix4x2_t(T* re, T* im, size_t n, size_t L, const T* tw, const T* tw4) {
+    const size_t q = L / 4;
+    const hn::CappedTag<T, 32 / sizeof(T)> df;
+    const hn::CappedTag<T, 4> d4;
+    const hn::CappedTag<T, 2> d2;
+    if (q * S >= hn::Lanes(df)) {
+      Radix4x2Rows<S, INV>(df, re, im, n, L, tw, tw4);
+    } else if (q * S >= hn::Lanes(d4) && hn::Lanes(d4) >= size_t(S)) {
+      Radix4x2Rows<S, INV>(d4, re, im, n, L, tw, tw4);
+    } else if (q * S >= hn::Lanes(d2) && hn::Lanes(d2) >= size_t(S)) {
+      Radix4x2Rows<S, INV>(d2, re, im, n, L, tw, tw4);
+    } else {
+      Base::radix4x2(re, im, n, L, tw, tw4, INV);
+    }
+  }
+  static void radix4x2(T* re, T* im, size_t n, size_t L, const T* tw, const T* tw4, bool inv) {
+    if (inv) radix4x2_t<true>(re, im, n, L, tw, tw4);
+    else radix4x2_t<false>(re, im, n, L, tw, tw4);
   }
 
   // ---- First pass fused with the permutation (interleaved layout). Lane i

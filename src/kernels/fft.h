@@ -225,6 +225,12 @@ struct Passes {
   static void radix4(T* re, T* im, std::size_t n, std::size_t L, const T* tw, bool inv) {
     radix4_range(re, im, n, L, tw, inv, 0);
   }
+  // Two consecutive stages L and 4L (tables tw and tw4).
+  static void radix4x2(T* re, T* im, std::size_t n, std::size_t L, const T* tw, const T* tw4,
+                       bool inv) {
+    radix4_range(re, im, n, L, tw, inv, 0);
+    radix4_range(re, im, n, 4 * L, tw4, inv, 0);
+  }
 
   // Radix-2 combine of two transformed halves of h elements each with the
   // twiddles tab[q * stride] of a second-level block of c entries.
@@ -424,9 +430,18 @@ struct Engine {
   void leaf(T* re, T* im, int n) {
     const std::size_t N = std::size_t(1) << n;
     std::size_t L = (n & 1) ? 8 : 16;
-    for (const T* tw = p.first; L <= N; L *= 4) {
+    const T* tw = p.first;
+    // An odd number of stages runs the first one alone; the others go in
+    // pairs, each pair one pass over the data.
+    if (((n - 1) / 2) % 2 == 1) {
       P::radix4(re, im, N, L, tw, a.inverse);
       tw += 2 * (3 * L / 4);
+      L *= 4;
+    }
+    for (; L <= N; L *= 16) {
+      const T* tw4 = tw + 2 * (3 * L / 4);
+      P::radix4x2(re, im, N, L, tw, tw4, a.inverse);
+      tw = tw4 + 2 * (3 * L);
     }
     if (a.scaled) P::scale(re, im, N, a.scale);
   }

@@ -142,27 +142,28 @@ KelStatus int_transform(const void* spec, std::uint32_t id, const Data<I>& d, in
   const auto* h = static_cast<const Header<double>*>(spec);
   const std::size_t n = std::size_t{1} << h->order;
   const bool scaled = direction_scaled(h, inv);
-  Cx<double> local[8];
-  double* x;  // n interleaved complex doubles
   const WorkArea work(h->order < 4 ? nullptr : buf, h->order < 4 ? 0 : h->work_bytes);
   if (work.failed()) return kelStsNoMemory;
-  x = h->order < 4 ? &local[0].r : work.as<double>();
+  Cx<double> local[8];
+  // n complex doubles: the record's straight-line sizes in `local`, else the
+  // start of the work area.
+  Cx<double>* x = h->order < 4 ? local : work.as<Cx<double>>();
   for (std::size_t i = 0; i < n; ++i) {
-    x[2 * i] = static_cast<double>(d.sre[S * i]);
-    x[2 * i + 1] = static_cast<double>(d.sim[S * i]);
+    x[i] = {static_cast<double>(d.sre[S * i]), static_cast<double>(d.sim[S * i])};
   }
   if (h->order < 4) {
     small_dft(h->order, local, inv);
     if (scaled)
-      for (std::size_t i = 0; i < 2 * n; ++i) x[i] *= h->scale();
+      for (std::size_t i = 0; i < n; ++i) local[i] = {local[i].r * h->scale(), local[i].i * h->scale()};
   } else {
+    double* v = work.as<double>();
     const kernels::FftPlan<double> plan = plan_of(h, h->order, true);
-    const kernels::FftArgs<double> args{x, x + 1, x, x + 1, x + 2 * n, inv, scaled, h->scale()};
+    const kernels::FftArgs<double> args{v, v + 1, v, v + 1, v + 2 * n, inv, scaled, h->scale()};
     kernels::fft_interleaved(plan, args);
   }
   for (std::size_t i = 0; i < n; ++i) {
-    d.dre[S * i] = round_saturate<I>(std::ldexp(x[2 * i], -sf));
-    d.dim[S * i] = round_saturate<I>(std::ldexp(x[2 * i + 1], -sf));
+    d.dre[S * i] = round_saturate<I>(std::ldexp(x[i].r, -sf));
+    d.dim[S * i] = round_saturate<I>(std::ldexp(x[i].i, -sf));
   }
   return kelStsOk;
 }
