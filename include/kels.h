@@ -252,6 +252,32 @@ KELAPI KelStatus kelsFFTInv_CToC_32f(const Kel32f* pSrcRe, const Kel32f* pSrcIm,
 KELAPI KelStatus kelsFFTInv_CToC_32f_I(Kel32f* pSrcDstRe, Kel32f* pSrcDstIm, const KelsFFTSpec_C_32f* pSpec, Kel8u* pBuffer);
 KELAPI KelStatus kelsFFTInv_CToC_64f(const Kel64f* pSrcRe, const Kel64f* pSrcIm, Kel64f* pDstRe, Kel64f* pDstIm, const KelsFFTSpec_C_64f* pSpec, Kel8u* pBuffer);
 KELAPI KelStatus kelsFFTInv_CToC_64f_I(Kel64f* pSrcDstRe, Kel64f* pSrcDstIm, const KelsFFTSpec_C_64f* pSpec, Kel8u* pBuffer);
+/* Real FFT of length 2^order into the packed layouts Perm, Pack (N values)
+ * and CCS (N + 2 values), and back; _I in place (CCS forward: N + 2). */
+KELAPI KelStatus kelsFFTFwd_RToPerm_32f(const Kel32f* pSrc, Kel32f* pDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPerm_32f_I(Kel32f* pSrcDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_32f(const Kel32f* pSrc, Kel32f* pDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_32f_I(Kel32f* pSrcDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_32f(const Kel32f* pSrc, Kel32f* pDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_32f_I(Kel32f* pSrcDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_32f(const Kel32f* pSrc, Kel32f* pDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_32f_I(Kel32f* pSrcDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_32f(const Kel32f* pSrc, Kel32f* pDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_32f_I(Kel32f* pSrcDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_32f(const Kel32f* pSrc, Kel32f* pDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_32f_I(Kel32f* pSrcDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPerm_64f(const Kel64f* pSrc, Kel64f* pDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPerm_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_64f(const Kel64f* pSrc, Kel64f* pDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_64f(const Kel64f* pSrc, Kel64f* pDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_64f(const Kel64f* pSrc, Kel64f* pDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_64f(const Kel64f* pSrc, Kel64f* pDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_64f(const Kel64f* pSrc, Kel64f* pDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
 /* Integer complex FFT: exact transform times the record scale times
  * 2^-scaleFactor, rounded to nearest even and saturated. */
 KELAPI KelStatus kelsFFTFwd_CToC_16sc_Sfs(const Kel16sc* pSrc, Kel16sc* pDst, const KelsFFTSpec_C_16sc* pSpec, int scaleFactor, Kel8u* pBuffer);

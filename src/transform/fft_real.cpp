@@ -1,0 +1,241 @@
+// Real FFT of length N = 2^order into the packed layouts Perm, Pack and CCS,
+// and back. Order >= 4 runs the complex transform of order - 1 on the signal
+// viewed as N/2 complex values, z[m] = x[2m] + i x[2m+1], then recombines
+// the pairs Z[k], Z[N/2 - k] with the record's factors e^(-2 pi i k/N).
+#include <cstdint>
+#include <cstring>
+
+#include "frame/common.h"
+#include "transform/fft_record.h"
+#include "transform/fft_small.h"
+
+namespace kels::fft {
+namespace {
+
+enum class Layout { Perm, Pack, Ccs };
+
+template <class T>
+Cx<T> conj(Cx<T> a) {
+  return {a.r, -a.i};
+}
+template <class T>
+Cx<T> cmul(Cx<T> a, Cx<T> b) {
+  return {a.r * b.r - a.i * b.i, a.r * b.i + a.i * b.r};
+}
+
+// Perm (as computed) to the requested layout, in place in dst (N + 2 values
+// for CCS).
+template <class T>
+void from_perm(T* d, std::size_t n, Layout lay) {
+  if (lay == Layout::Pack && n > 2) {
+    const T nyq = d[1];
+    std::memmove(d + 1, d + 2, (n - 2) * sizeof(T));
+    d[n - 1] = nyq;
+  } else if (lay == Layout::Ccs) {
+    if (n > 1) {
+      d[n] = d[1];
+      d[n + 1] = 0;
+    }
+    d[1] = 0;
+  }
+}
+
+// The requested layout to Perm: src (N values, N + 2 for CCS) into dst (N
+// values); src may equal dst.
+template <class T>
+void to_perm(const T* s, T* d, std::size_t n, Layout lay) {
+  if (n == 1) {
+    d[0] = s[0];
+    return;
+  }
+  if (lay == Layout::Pack) {
+    const T nyq = s[n - 1];
+    std::memmove(d + 2, s + 1, (n - 2) * sizeof(T));
+    d[0] = s[0];
+    d[1] = nyq;
+  } else {
+    const T nyq = lay == Layout::Ccs ? s[n] : s[1];
+    if (s != d) std::memcpy(d + 2, s + 2, (n - 2) * sizeof(T));
+    d[0] = s[0];
+    d[1] = nyq;
+  }
+}
+
+template <class T>
+const Header<T>* real_header(const void* spec) {
+  return static_cast<const Header<T>*>(spec);
+}
+
+// Orders 0..3: the complex straight-line transform of the real data, the
+// non-redundant half written as Perm.
+template <class T>
+void small_forward(int order, const T* src, T* dst, bool scaled, T scale) {
+  const int n = 1 << order;
+  Cx<T> x[8];
+  for (int i = 0; i < n; ++i) x[i] = {src[i], T(0)};
+  small_dft(order, x, false);
+  const T s = scaled ? scale : T(1);
+  dst[0] = x[0].r * s;
+  if (n == 1) return;
+  dst[1] = x[n / 2].r * s;
+  for (int k = 1; k < n / 2; ++k) {
+    dst[2 * k] = x[k].r * s;
+    dst[2 * k + 1] = x[k].i * s;
+  }
+}
+
+template <class T>
+void small_inverse(int order, const T* perm, T* dst, bool scaled, T scale) {
+  const int n = 1 << order;
+  Cx<T> x[8];
+  x[0] = {perm[0], T(0)};
+  if (n > 1) x[n / 2] = {perm[1], T(0)};
+  for (int k = 1; k < n / 2; ++k) {
+    x[k] = {perm[2 * k], perm[2 * k + 1]};
+    x[n - k] = {perm[2 * k], -perm[2 * k + 1]};
+  }
+  small_dft(order, x, true);
+  for (int i = 0; i < n; ++i) dst[i] = scaled ? x[i].r * scale : x[i].r;
+}
+
+// Forward recombination in place on the half-length spectrum Z (dst as
+// complex), leaving Perm.
+template <class T>
+void recombine_forward(T* d, std::size_t n, const T* w) {
+  auto* z = reinterpret_cast<Cx<T>*>(d);
+  const std::size_t m = n / 2;
+  const Cx<T> z0 = z[0];
+  d[0] = z0.r + z0.i;
+  d[1] = z0.r - z0.i;
+  for (std::size_t k = 1; k <= m / 2; ++k) {
+    const Cx<T> a = z[k], b = conj(z[m - k]);
+    const Cx<T> e = {(a.r + b.r) * T(0.5), (a.i + b.i) * T(0.5)};
+    // o = (a - b) / (2i)
+    const Cx<T> o = {(a.i - b.i) * T(0.5), (b.r - a.r) * T(0.5)};
+    const Cx<T> wk = k < m / 2 ? Cx<T>{w[2 * k], w[2 * k + 1]} : Cx<T>{T(0), T(-1)};
+    const Cx<T> t = cmul(wk, o);
+    z[k] = {e.r + t.r, e.i + t.i};
+    if (k != m - k) z[m - k] = {e.r - t.r, t.i - e.i};  // conj(e - t)
+  }
+}
+
+// Inverse recombination in place on Perm data: Z[k] = (X[k] + conj X[m-k])
+// + i (X[k] - conj X[m-k]) conj(w^k); the unscaled complex inverse of Z is
+// then N/2 * 2 = N times (x[2m] + i x[2m+1]).
+template <class T>
+void recombine_inverse(T* d, std::size_t n, const T* wc) {
+  auto* z = reinterpret_cast<Cx<T>*>(d);
+  const std::size_t m = n / 2;
+  const T r0 = d[0], rm = d[1];
+  z[0] = {r0 + rm, r0 - rm};
+  for (std::size_t k = 1; k <= m / 2; ++k) {
+    const Cx<T> xa = z[k], xb = conj(z[m - k]);
+    const Cx<T> e = {xa.r + xb.r, xa.i + xb.i};
+    const Cx<T> df = {xa.r - xb.r, xa.i - xb.i};
+    const Cx<T> wk = k < m / 2 ? Cx<T>{wc[2 * k], wc[2 * k + 1]} : Cx<T>{T(0), T(1)};
+    const Cx<T> o = cmul(df, wk);
+    // Z[k] = e + i o; Z[m-k] = conj(e) + i conj(o) (the same formula at m-k)
+    z[k] = {e.r - o.i, e.i + o.r};
+    if (k != m - k) z[m - k] = {e.r + o.i, o.r - e.i};
+  }
+}
+
+template <class T>
+void run_complex(const Header<T>* h, int corder, const T* src, T* dst, T* work, bool inv,
+                 bool scaled) {
+  const bool dbl = sizeof(T) == 8;
+  if (corder < 4) {
+    // The half-length transform itself is straight-line (8 points at most).
+    Cx<T> z[8];
+    const int m = 1 << corder;
+    for (int i = 0; i < m; ++i) z[i] = {src[2 * i], src[2 * i + 1]};
+    small_dft(corder, z, inv);
+    for (int i = 0; i < m; ++i) {
+      dst[2 * i] = scaled ? z[i].r * h->scale() : z[i].r;
+      dst[2 * i + 1] = scaled ? z[i].i * h->scale() : z[i].i;
+    }
+    return;
+  }
+  const kernels::FftPlan<T> plan = plan_of(h, corder, dbl);
+  const kernels::FftArgs<T> args{src, src + 1, dst, dst + 1, work, inv, scaled, h->scale()};
+  kernels::fft_interleaved(plan, args);
+}
+
+template <class T>
+KelStatus forward(const void* spec, std::uint32_t id, const T* src, T* dst, Kel8u* buf, Layout lay) {
+  KELS_REQUIRE_PTRS(spec);
+  KELS_REQUIRE_ID(spec, id);
+  KELS_REQUIRE_PTRS(src, dst);
+  const Header<T>* h = real_header<T>(spec);
+  const int order = h->order;
+  const std::size_t n = std::size_t{1} << order;
+  const bool scaled = h->scale_fwd != 0;
+  if (order < 4) {
+    T tmp[8];
+    small_forward(order, src, tmp, scaled, h->scale());
+    std::memcpy(dst, tmp, n * sizeof(T));
+    from_perm(dst, n, lay);
+    return kelStsOk;
+  }
+  const WorkArea work(buf, h->work_bytes);
+  if (work.failed()) return kelStsNoMemory;
+  run_complex(h, order - 1, src, dst, work.as<T>(), false, scaled);
+  recombine_forward(dst, n, h->template at<T>(h->real_recombine));
+  from_perm(dst, n, lay);
+  return kelStsOk;
+}
+
+template <class T>
+KelStatus inverse(const void* spec, std::uint32_t id, const T* src, T* dst, Kel8u* buf, Layout lay) {
+  KELS_REQUIRE_PTRS(spec);
+  KELS_REQUIRE_ID(spec, id);
+  KELS_REQUIRE_PTRS(src, dst);
+  const Header<T>* h = real_header<T>(spec);
+  const int order = h->order;
+  const std::size_t n = std::size_t{1} << order;
+  const bool scaled = h->scale_inv != 0;
+  if (order < 4) {
+    T perm[8];
+    to_perm(src, perm, n, lay);
+    small_inverse(order, perm, dst, scaled, h->scale());
+    return kelStsOk;
+  }
+  const WorkArea work(buf, h->work_bytes);
+  if (work.failed()) return kelStsNoMemory;
+  to_perm(src, dst, n, lay);
+  recombine_inverse(dst, n, h->template at<T>(h->ccs_recombine));
+  run_complex(h, order - 1, dst, dst, work.as<T>(), true, scaled);
+  return kelStsOk;
+}
+
+}  // namespace
+}  // namespace kels::fft
+
+using kels::fft::Layout;
+
+// (type code, element type, spec family, identifier)
+#define KELS_FFT_REAL_MEMBERS(X) X(32f, Kel32f, R_32f, 6u) X(64f, Kel64f, R_64f, 9u)
+
+#define KELS_DEFINE_FFT_REAL_PAIR(fwd_name, inv_name, lay, code, T, fam, id)                          \
+  KELS_EXPORT KelStatus kelsFFTFwd_##fwd_name##_##code(const T* pSrc, T* pDst,                        \
+                                                       const KelsFFTSpec_##fam* pSpec, Kel8u* pBuffer) { \
+    return kels::fft::forward<T>(pSpec, id, pSrc, pDst, pBuffer, lay);                                 \
+  }                                                                                                   \
+  KELS_EXPORT KelStatus kelsFFTFwd_##fwd_name##_##code##_I(T* pSrcDst, const KelsFFTSpec_##fam* pSpec, \
+                                                           Kel8u* pBuffer) {                          \
+    return kelsFFTFwd_##fwd_name##_##code(pSrcDst, pSrcDst, pSpec, pBuffer);                          \
+  }                                                                                                   \
+  KELS_EXPORT KelStatus kelsFFTInv_##inv_name##_##code(const T* pSrc, T* pDst,                        \
+                                                       const KelsFFTSpec_##fam* pSpec, Kel8u* pBuffer) { \
+    return kels::fft::inverse<T>(pSpec, id, pSrc, pDst, pBuffer, lay);                                 \
+  }                                                                                                   \
+  KELS_EXPORT KelStatus kelsFFTInv_##inv_name##_##code##_I(T* pSrcDst, const KelsFFTSpec_##fam* pSpec, \
+                                                           Kel8u* pBuffer) {                          \
+    return kelsFFTInv_##inv_name##_##code(pSrcDst, pSrcDst, pSpec, pBuffer);                          \
+  }
+#define KELS_DEFINE_FFT_REAL(code, T, fam, id)                                     \
+  KELS_DEFINE_FFT_REAL_PAIR(RToPerm, PermToR, Layout::Perm, code, T, fam, id)      \
+  KELS_DEFINE_FFT_REAL_PAIR(RToPack, PackToR, Layout::Pack, code, T, fam, id)      \
+  KELS_DEFINE_FFT_REAL_PAIR(RToCCS, CCSToR, Layout::Ccs, code, T, fam, id)
+
+KELS_FOR_MEMBERS(KELS_FFT_REAL_MEMBERS, KELS_DEFINE_FFT_REAL)
