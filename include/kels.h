@@ -278,6 +278,42 @@ KELAPI KelStatus kelsFFTFwd_RToCCS_64f(const Kel64f* pSrc, Kel64f* pDst, const K
 KELAPI KelStatus kelsFFTFwd_RToCCS_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
 KELAPI KelStatus kelsFFTInv_CCSToR_64f(const Kel64f* pSrc, Kel64f* pDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
 KELAPI KelStatus kelsFFTInv_CCSToR_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+/* Packed spectra: products of Pack / Perm arrays (len reals), the Pack
+ * product with the conjugate of the in-place operand, and expansion of a
+ * Pack / Perm / CCS spectrum of a real signal of length len into len complex
+ * values (in place: the first reals of pSrcDst hold the packed spectrum). */
+KELAPI KelStatus kelsMulPack_32f(const Kel32f* pSrc1, const Kel32f* pSrc2, Kel32f* pDst, int len);
+KELAPI KelStatus kelsMulPack_32f_I(const Kel32f* pSrc, Kel32f* pSrcDst, int len);
+KELAPI KelStatus kelsMulPerm_32f(const Kel32f* pSrc1, const Kel32f* pSrc2, Kel32f* pDst, int len);
+KELAPI KelStatus kelsMulPerm_32f_I(const Kel32f* pSrc, Kel32f* pSrcDst, int len);
+KELAPI KelStatus kelsMulPackConj_32f_I(const Kel32f* pSrc, Kel32f* pSrcDst, int len);
+KELAPI KelStatus kelsMulPack_64f(const Kel64f* pSrc1, const Kel64f* pSrc2, Kel64f* pDst, int len);
+KELAPI KelStatus kelsMulPack_64f_I(const Kel64f* pSrc, Kel64f* pSrcDst, int len);
+KELAPI KelStatus kelsMulPerm_64f(const Kel64f* pSrc1, const Kel64f* pSrc2, Kel64f* pDst, int len);
+KELAPI KelStatus kelsMulPerm_64f_I(const Kel64f* pSrc, Kel64f* pSrcDst, int len);
+KELAPI KelStatus kelsMulPackConj_64f_I(const Kel64f* pSrc, Kel64f* pSrcDst, int len);
+KELAPI KelStatus kelsMulPack_16s_Sfs(const Kel16s* pSrc1, const Kel16s* pSrc2, Kel16s* pDst, int len, int scaleFactor);
+KELAPI KelStatus kelsMulPack_16s_ISfs(const Kel16s* pSrc, Kel16s* pSrcDst, int len, int scaleFactor);
+KELAPI KelStatus kelsMulPerm_16s_Sfs(const Kel16s* pSrc1, const Kel16s* pSrc2, Kel16s* pDst, int len, int scaleFactor);
+KELAPI KelStatus kelsMulPerm_16s_ISfs(const Kel16s* pSrc, Kel16s* pSrcDst, int len, int scaleFactor);
+KELAPI KelStatus kelsConjPack_32fc(const Kel32f* pSrc, Kel32fc* pDst, int len);
+KELAPI KelStatus kelsConjPack_32fc_I(Kel32fc* pSrcDst, int len);
+KELAPI KelStatus kelsConjPerm_32fc(const Kel32f* pSrc, Kel32fc* pDst, int len);
+KELAPI KelStatus kelsConjPerm_32fc_I(Kel32fc* pSrcDst, int len);
+KELAPI KelStatus kelsConjCcs_32fc(const Kel32f* pSrc, Kel32fc* pDst, int len);
+KELAPI KelStatus kelsConjCcs_32fc_I(Kel32fc* pSrcDst, int len);
+KELAPI KelStatus kelsConjPack_64fc(const Kel64f* pSrc, Kel64fc* pDst, int len);
+KELAPI KelStatus kelsConjPack_64fc_I(Kel64fc* pSrcDst, int len);
+KELAPI KelStatus kelsConjPerm_64fc(const Kel64f* pSrc, Kel64fc* pDst, int len);
+KELAPI KelStatus kelsConjPerm_64fc_I(Kel64fc* pSrcDst, int len);
+KELAPI KelStatus kelsConjCcs_64fc(const Kel64f* pSrc, Kel64fc* pDst, int len);
+KELAPI KelStatus kelsConjCcs_64fc_I(Kel64fc* pSrcDst, int len);
+KELAPI KelStatus kelsConjPack_16sc(const Kel16s* pSrc, Kel16sc* pDst, int len);
+KELAPI KelStatus kelsConjPack_16sc_I(Kel16sc* pSrcDst, int len);
+KELAPI KelStatus kelsConjPerm_16sc(const Kel16s* pSrc, Kel16sc* pDst, int len);
+KELAPI KelStatus kelsConjPerm_16sc_I(Kel16sc* pSrcDst, int len);
+KELAPI KelStatus kelsConjCcs_16sc(const Kel16s* pSrc, Kel16sc* pDst, int len);
+KELAPI KelStatus kelsConjCcs_16sc_I(Kel16sc* pSrcDst, int len);
 /* Integer complex FFT: exact transform times the record scale times
  * 2^-scaleFactor, rounded to nearest even and saturated. */
 KELAPI KelStatus kelsFFTFwd_CToC_16sc_Sfs(const Kel16sc* pSrc, Kel16sc* pDst, const KelsFFTSpec_C_16sc* pSpec, int scaleFactor, Kel8u* pBuffer);
