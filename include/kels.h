@@ -278,6 +278,34 @@ KELAPI KelStatus kelsFFTFwd_RToCCS_64f(const Kel64f* pSrc, Kel64f* pDst, const K
 KELAPI KelStatus kelsFFTFwd_RToCCS_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
 KELAPI KelStatus kelsFFTInv_CCSToR_64f(const Kel64f* pSrc, Kel64f* pDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
 KELAPI KelStatus kelsFFTInv_CCSToR_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+/* Integer real FFT: exact transform times the record scale times
+ * 2^-scaleFactor, rounded to nearest even and saturated. */
+KELAPI KelStatus kelsFFTFwd_RToPerm_16s_Sfs(const Kel16s* pSrc, Kel16s* pDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPerm_16s_ISfs(Kel16s* pSrcDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_16s_Sfs(const Kel16s* pSrc, Kel16s* pDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_16s_ISfs(Kel16s* pSrcDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_16s_Sfs(const Kel16s* pSrc, Kel16s* pDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_16s_ISfs(Kel16s* pSrcDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_16s_Sfs(const Kel16s* pSrc, Kel16s* pDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_16s_ISfs(Kel16s* pSrcDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_16s_Sfs(const Kel16s* pSrc, Kel16s* pDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_16s_ISfs(Kel16s* pSrcDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_16s_Sfs(const Kel16s* pSrc, Kel16s* pDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_16s_ISfs(Kel16s* pSrcDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPerm_32s_Sfs(const Kel32s* pSrc, Kel32s* pDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPerm_32s_ISfs(Kel32s* pSrcDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_32s_Sfs(const Kel32s* pSrc, Kel32s* pDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_32s_ISfs(Kel32s* pSrcDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_32s_Sfs(const Kel32s* pSrc, Kel32s* pDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_32s_ISfs(Kel32s* pSrcDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_32s_Sfs(const Kel32s* pSrc, Kel32s* pDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_32s_ISfs(Kel32s* pSrcDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_32s_Sfs(const Kel32s* pSrc, Kel32s* pDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_32s_ISfs(Kel32s* pSrcDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_32s_Sfs(const Kel32s* pSrc, Kel32s* pDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_32s_ISfs(Kel32s* pSrcDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_16s32s_Sfs(const Kel16s* pSrc, Kel32s* pDst, const KelsFFTSpec_R_16s32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_32s16s_Sfs(const Kel32s* pSrc, Kel16s* pDst, const KelsFFTSpec_R_16s32s* pSpec, int scaleFactor, Kel8u* pBuffer);
 /* Packed spectra: products of Pack / Perm arrays (len reals), the Pack
  * product with the conjugate of the in-place operand, and expansion of a
  * Pack / Perm / CCS spectrum of a real signal of length len into len complex

@@ -64,19 +64,6 @@ KelStatus transform(const void* spec, std::uint32_t id, const Data<T>& d, Kel8u*
   return kelStsOk;
 }
 
-// Nearest integer, ties to even, saturated to I.
-template <class I>
-I round_saturate(double y) {
-  constexpr double lo = static_cast<double>(std::numeric_limits<I>::min());
-  constexpr double hi = static_cast<double>(std::numeric_limits<I>::max());
-  if (!(y > lo)) return std::numeric_limits<I>::min();  // also NaN, which exact data never give
-  if (y >= hi) return std::numeric_limits<I>::max();
-  double f = std::floor(y);
-  const double frac = y - f;
-  if (frac > 0.5 || (frac == 0.5 && std::fmod(f, 2.0) != 0.0)) f += 1.0;
-  return static_cast<I>(f);
-}
-
 // Integer transform: the data go to double precision (exact for 16- and
 // 32-bit values), through the double-precision engine in place, and back
 // with the record's scale and 2^-scaleFactor applied before one rounding.

@@ -161,12 +161,9 @@ void run_complex(const Header<T>* h, int corder, const T* src, T* dst, T* work, 
   kernels::fft_interleaved(plan, args);
 }
 
+// Forward transform of checked arguments; src and dst may be equal.
 template <class T>
-KelStatus forward(const void* spec, std::uint32_t id, const T* src, T* dst, Kel8u* buf, Layout lay) {
-  KELS_REQUIRE_PTRS(spec);
-  KELS_REQUIRE_ID(spec, id);
-  KELS_REQUIRE_PTRS(src, dst);
-  const Header<T>* h = real_header<T>(spec);
+void forward_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) {
   const int order = h->order;
   const std::size_t n = std::size_t{1} << order;
   const bool scaled = h->scale_fwd != 0;
@@ -174,23 +171,16 @@ KelStatus forward(const void* spec, std::uint32_t id, const T* src, T* dst, Kel8
     T tmp[8];
     small_forward(order, src, tmp, scaled, h->scale());
     std::memcpy(dst, tmp, n * sizeof(T));
-    from_perm(dst, n, lay);
-    return kelStsOk;
+  } else {
+    run_complex(h, order - 1, src, dst, work, false, scaled);
+    recombine_forward(dst, n, h->template at<T>(h->real_recombine));
   }
-  const WorkArea work(buf, h->work_bytes);
-  if (work.failed()) return kelStsNoMemory;
-  run_complex(h, order - 1, src, dst, work.as<T>(), false, scaled);
-  recombine_forward(dst, n, h->template at<T>(h->real_recombine));
   from_perm(dst, n, lay);
-  return kelStsOk;
 }
 
+// Inverse transform of checked arguments; src and dst may be equal.
 template <class T>
-KelStatus inverse(const void* spec, std::uint32_t id, const T* src, T* dst, Kel8u* buf, Layout lay) {
-  KELS_REQUIRE_PTRS(spec);
-  KELS_REQUIRE_ID(spec, id);
-  KELS_REQUIRE_PTRS(src, dst);
-  const Header<T>* h = real_header<T>(spec);
+void inverse_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) {
   const int order = h->order;
   const std::size_t n = std::size_t{1} << order;
   const bool scaled = h->scale_inv != 0;
@@ -198,13 +188,52 @@ KelStatus inverse(const void* spec, std::uint32_t id, const T* src, T* dst, Kel8
     T perm[8];
     to_perm(src, perm, n, lay);
     small_inverse(order, perm, dst, scaled, h->scale());
-    return kelStsOk;
+    return;
   }
-  const WorkArea work(buf, h->work_bytes);
-  if (work.failed()) return kelStsNoMemory;
   to_perm(src, dst, n, lay);
   recombine_inverse(dst, n, h->template at<T>(h->ccs_recombine));
-  run_complex(h, order - 1, dst, dst, work.as<T>(), true, scaled);
+  run_complex(h, order - 1, dst, dst, work, true, scaled);
+}
+
+template <class T>
+KelStatus transform(const void* spec, std::uint32_t id, const T* src, T* dst, Kel8u* buf, Layout lay,
+                    bool inv) {
+  KELS_REQUIRE_PTRS(spec);
+  KELS_REQUIRE_ID(spec, id);
+  KELS_REQUIRE_PTRS(src, dst);
+  const Header<T>* h = real_header<T>(spec);
+  const WorkArea work(buf, h->order < 4 ? 0 : h->work_bytes);
+  if (work.failed()) return kelStsNoMemory;
+  if (inv) inverse_run(h, src, dst, work.as<T>(), lay);
+  else forward_run(h, src, dst, work.as<T>(), lay);
+  return kelStsOk;
+}
+
+// Integer real transforms (I in, O out): the data are converted exactly to
+// double precision in the work area, transformed there in place with the
+// double-precision record, and rounded (with 2^-scaleFactor) and saturated
+// into the destination; same error budget as the integer complex transforms.
+template <class I, class O>
+KelStatus int_transform(const void* spec, std::uint32_t id, const I* src, O* dst, int sf, Kel8u* buf,
+                        Layout lay, bool inv) {
+  KELS_REQUIRE_PTRS(spec);
+  KELS_REQUIRE_ID(spec, id);
+  KELS_REQUIRE_PTRS(src, dst);
+  const Header<double>* h = real_header<double>(spec);
+  const std::size_t n = std::size_t{1} << h->order;
+  const std::size_t packed = lay == Layout::Ccs ? n + 2 : n;
+  const std::size_t in_len = inv ? packed : n, out_len = inv ? n : packed;
+  const WorkArea work(h->order < 4 ? nullptr : buf, h->order < 4 ? 0 : h->work_bytes);
+  if (work.failed()) return kelStsNoMemory;
+  double local[10];
+  // N + 2 doubles of data, then (16-byte aligned, 16N bytes from the start)
+  // the double-precision work.
+  double* x = h->order < 4 ? local : work.as<double>();
+  double* dwork = h->order < 4 ? nullptr : x + 2 * n;
+  for (std::size_t i = 0; i < in_len; ++i) x[i] = static_cast<double>(src[i]);
+  if (inv) inverse_run(h, x, x, dwork, lay);
+  else forward_run(h, x, x, dwork, lay);
+  for (std::size_t i = 0; i < out_len; ++i) dst[i] = round_saturate<O>(std::ldexp(x[i], -sf));
   return kelStsOk;
 }
 
@@ -215,27 +244,55 @@ using kels::fft::Layout;
 
 // (type code, element type, spec family, identifier)
 #define KELS_FFT_REAL_MEMBERS(X) X(32f, Kel32f, R_32f, 6u) X(64f, Kel64f, R_64f, 9u)
+#define KELS_FFT_REAL_INT_MEMBERS(X) X(16s, Kel16s, R_16s, 3u) X(32s, Kel32s, R_32s, 0x4C4D5366u)
 
-#define KELS_DEFINE_FFT_REAL_PAIR(fwd_name, inv_name, lay, code, T, fam, id)                          \
-  KELS_EXPORT KelStatus kelsFFTFwd_##fwd_name##_##code(const T* pSrc, T* pDst,                        \
+#define KELS_DEFINE_FFT_REAL_ONE(dir, name, inv, lay, code, T, fam, id)                              \
+  KELS_EXPORT KelStatus kelsFFT##dir##_##name##_##code(const T* pSrc, T* pDst,                        \
                                                        const KelsFFTSpec_##fam* pSpec, Kel8u* pBuffer) { \
-    return kels::fft::forward<T>(pSpec, id, pSrc, pDst, pBuffer, lay);                                 \
+    return kels::fft::transform<T>(pSpec, id, pSrc, pDst, pBuffer, lay, inv);                          \
   }                                                                                                   \
-  KELS_EXPORT KelStatus kelsFFTFwd_##fwd_name##_##code##_I(T* pSrcDst, const KelsFFTSpec_##fam* pSpec, \
+  KELS_EXPORT KelStatus kelsFFT##dir##_##name##_##code##_I(T* pSrcDst, const KelsFFTSpec_##fam* pSpec,  \
                                                            Kel8u* pBuffer) {                          \
-    return kelsFFTFwd_##fwd_name##_##code(pSrcDst, pSrcDst, pSpec, pBuffer);                          \
-  }                                                                                                   \
-  KELS_EXPORT KelStatus kelsFFTInv_##inv_name##_##code(const T* pSrc, T* pDst,                        \
-                                                       const KelsFFTSpec_##fam* pSpec, Kel8u* pBuffer) { \
-    return kels::fft::inverse<T>(pSpec, id, pSrc, pDst, pBuffer, lay);                                 \
-  }                                                                                                   \
-  KELS_EXPORT KelStatus kelsFFTInv_##inv_name##_##code##_I(T* pSrcDst, const KelsFFTSpec_##fam* pSpec, \
-                                                           Kel8u* pBuffer) {                          \
-    return kelsFFTInv_##inv_name##_##code(pSrcDst, pSrcDst, pSpec, pBuffer);                          \
+    return kelsFFT##dir##_##name##_##code(pSrcDst, pSrcDst, pSpec, pBuffer);                          \
   }
-#define KELS_DEFINE_FFT_REAL(code, T, fam, id)                                     \
-  KELS_DEFINE_FFT_REAL_PAIR(RToPerm, PermToR, Layout::Perm, code, T, fam, id)      \
-  KELS_DEFINE_FFT_REAL_PAIR(RToPack, PackToR, Layout::Pack, code, T, fam, id)      \
-  KELS_DEFINE_FFT_REAL_PAIR(RToCCS, CCSToR, Layout::Ccs, code, T, fam, id)
+#define KELS_DEFINE_FFT_REAL(code, T, fam, id)                                          \
+  KELS_DEFINE_FFT_REAL_ONE(Fwd, RToPerm, false, Layout::Perm, code, T, fam, id)         \
+  KELS_DEFINE_FFT_REAL_ONE(Fwd, RToPack, false, Layout::Pack, code, T, fam, id)         \
+  KELS_DEFINE_FFT_REAL_ONE(Fwd, RToCCS, false, Layout::Ccs, code, T, fam, id)           \
+  KELS_DEFINE_FFT_REAL_ONE(Inv, PermToR, true, Layout::Perm, code, T, fam, id)          \
+  KELS_DEFINE_FFT_REAL_ONE(Inv, PackToR, true, Layout::Pack, code, T, fam, id)          \
+  KELS_DEFINE_FFT_REAL_ONE(Inv, CCSToR, true, Layout::Ccs, code, T, fam, id)
+
+#define KELS_DEFINE_FFT_REAL_INT_ONE(dir, name, inv, lay, code, T, fam, id)                          \
+  KELS_EXPORT KelStatus kelsFFT##dir##_##name##_##code##_Sfs(                                         \
+      const T* pSrc, T* pDst, const KelsFFTSpec_##fam* pSpec, int scaleFactor, Kel8u* pBuffer) {      \
+    return kels::fft::int_transform<T, T>(pSpec, id, pSrc, pDst, scaleFactor, pBuffer, lay, inv);     \
+  }                                                                                                   \
+  KELS_EXPORT KelStatus kelsFFT##dir##_##name##_##code##_ISfs(                                        \
+      T* pSrcDst, const KelsFFTSpec_##fam* pSpec, int scaleFactor, Kel8u* pBuffer) {                  \
+    return kelsFFT##dir##_##name##_##code##_Sfs(pSrcDst, pSrcDst, pSpec, scaleFactor, pBuffer);       \
+  }
+#define KELS_DEFINE_FFT_REAL_INT(code, T, fam, id)                                      \
+  KELS_DEFINE_FFT_REAL_INT_ONE(Fwd, RToPerm, false, Layout::Perm, code, T, fam, id)     \
+  KELS_DEFINE_FFT_REAL_INT_ONE(Fwd, RToPack, false, Layout::Pack, code, T, fam, id)     \
+  KELS_DEFINE_FFT_REAL_INT_ONE(Fwd, RToCCS, false, Layout::Ccs, code, T, fam, id)       \
+  KELS_DEFINE_FFT_REAL_INT_ONE(Inv, PermToR, true, Layout::Perm, code, T, fam, id)      \
+  KELS_DEFINE_FFT_REAL_INT_ONE(Inv, PackToR, true, Layout::Pack, code, T, fam, id)      \
+  KELS_DEFINE_FFT_REAL_INT_ONE(Inv, CCSToR, true, Layout::Ccs, code, T, fam, id)
 
 KELS_FOR_MEMBERS(KELS_FFT_REAL_MEMBERS, KELS_DEFINE_FFT_REAL)
+KELS_FOR_MEMBERS(KELS_FFT_REAL_INT_MEMBERS, KELS_DEFINE_FFT_REAL_INT)
+
+// 16-bit signal, 32-bit CCS spectrum, and back.
+KELS_EXPORT KelStatus kelsFFTFwd_RToCCS_16s32s_Sfs(const Kel16s* pSrc, Kel32s* pDst,
+                                                   const KelsFFTSpec_R_16s32s* pSpec, int scaleFactor,
+                                                   Kel8u* pBuffer) {
+  return kels::fft::int_transform<Kel16s, Kel32s>(pSpec, 0x4C4D5367u, pSrc, pDst, scaleFactor, pBuffer,
+                                                  Layout::Ccs, false);
+}
+KELS_EXPORT KelStatus kelsFFTInv_CCSToR_32s16s_Sfs(const Kel32s* pSrc, Kel16s* pDst,
+                                                   const KelsFFTSpec_R_16s32s* pSpec, int scaleFactor,
+                                                   Kel8u* pBuffer) {
+  return kels::fft::int_transform<Kel32s, Kel16s>(pSpec, 0x4C4D5367u, pSrc, pDst, scaleFactor, pBuffer,
+                                                  Layout::Ccs, true);
+}

@@ -7,7 +7,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cmath>
 #include <cstring>
+#include <limits>
 
 #include "frame/common.h"
 #include "kernels/fft.h"
@@ -142,6 +144,20 @@ class WorkArea {
   bool owned_ = false;
   std::int64_t bytes_;
 };
+
+// Integer outputs of the integer transforms, computed in double precision:
+// Nearest integer, ties to even, saturated to I.
+template <class I>
+inline I round_saturate(double y) {
+  constexpr double lo = static_cast<double>(std::numeric_limits<I>::min());
+  constexpr double hi = static_cast<double>(std::numeric_limits<I>::max());
+  if (!(y > lo)) return std::numeric_limits<I>::min();  // also NaN, which exact data never give
+  if (y >= hi) return std::numeric_limits<I>::max();
+  double f = std::floor(y);
+  const double frac = y - f;
+  if (frac > 0.5 || (frac == 0.5 && std::fmod(f, 2.0) != 0.0)) f += 1.0;
+  return static_cast<I>(f);
+}
 
 }  // namespace kels::fft
 

@@ -196,3 +196,106 @@ TYPED_TEST(FftReal, BadArguments) {
 
 }  // namespace
 }  // namespace kels::test
+
+namespace kels::test {
+namespace {
+
+// Integer real transforms against the rounded exact transform: |error| <= 1
+// and only where the exact value is within 1e-6 of a rounding boundary.
+template <class O>
+void expect_rounded(const std::vector<long double>& exact, const O* got, const std::string& what) {
+  const long double lo = std::numeric_limits<O>::min(), hi = std::numeric_limits<O>::max();
+  for (std::size_t i = 0; i < exact.size(); ++i) {
+    long double f = std::floor(exact[i]);
+    const long double frac = exact[i] - f;
+    if (frac > 0.5L || (frac == 0.5L && std::fmod(f, 2.0L) != 0)) f += 1;
+    f = f < lo ? lo : (f > hi ? hi : f);
+    if (static_cast<long double>(got[i]) != f) {
+      EXPECT_LE(std::fabs(got[i] - f), 1) << what << " i " << i;
+      EXPECT_LT(std::fabs(frac - 0.5L), 1e-6L) << what << " i " << i;
+    }
+  }
+}
+
+
+template <class I, class O, class Spec>
+void int_real_case(KelStatus (*init)(Spec**, int, int, int), KelStatus (*fwd)(const I*, O*, const Spec*, int, Kel8u*),
+                   KelStatus (*inv)(const O*, I*, const Spec*, int, Kel8u*), KelStatus (*release)(Spec*),
+                   Lay lay, int order, int flag, int sf_f, int sf_i) {
+  Spec* spec = nullptr;
+  ASSERT_EQ(init(&spec, order, flag, 0), kelStsOk);
+  const std::size_t n = std::size_t{1} << order, len = lay == Lay::Ccs ? n + 2 : n;
+  std::mt19937 gen(static_cast<unsigned>(order + flag));
+  std::uniform_int_distribution<int> u(-20000, 20000);
+  std::vector<I> x(n);
+  std::vector<cld> xc(n);
+  for (std::size_t i = 0; i < n; ++i) {
+    x[i] = static_cast<I>(u(gen));
+    xc[i] = cld(x[i], 0);
+  }
+  const auto X = order <= 11 ? ref::dft(xc, false) : ref::fft(xc, false);
+  const long double nn = static_cast<long double>(n);
+  const long double sf = flag == 1 ? 1 / nn : flag == 4 ? 1 / std::sqrt(nn) : 1;
+  const long double si = flag == 2 ? 1 / nn : flag == 4 ? 1 / std::sqrt(nn) : 1;
+  std::vector<O> y(len);
+  ASSERT_EQ(fwd(x.data(), y.data(), spec, sf_f, nullptr), kelStsOk);
+  auto want = pack(X, n, lay);
+  for (auto& v : want) v = std::ldexp(v * sf, -sf_f);
+  expect_rounded(want, y.data(), "forward order " + std::to_string(order));
+  // Inverse of the integer spectrum just produced, against its exact inverse.
+  std::vector<cld> Y(n);
+  std::vector<long double> yl(y.begin(), y.end());
+  auto get = [&](std::size_t k) -> cld {  // X[k] for k <= n/2 from the layout
+    if (k == 0) return cld(yl[0], 0);
+    if (2 * k == n) return cld(lay == Lay::Ccs ? yl[n] : lay == Lay::Perm ? yl[1] : yl[n - 1], 0);
+    if (lay == Lay::Pack) return cld(yl[2 * k - 1], yl[2 * k]);
+    return cld(yl[2 * k], yl[2 * k + 1]);
+  };
+  for (std::size_t k = 0; 2 * k <= n; ++k) {
+    Y[k] = get(k);
+    if (k > 0 && 2 * k < n) Y[n - k] = std::conj(Y[k]);
+  }
+  const auto back = order <= 11 ? ref::dft(Y, true) : ref::fft(Y, true);
+  std::vector<I> z(n);
+  ASSERT_EQ(inv(y.data(), z.data(), spec, sf_i, nullptr), kelStsOk);
+  std::vector<long double> wz(n);
+  for (std::size_t i = 0; i < n; ++i) wz[i] = std::ldexp(back[i].real() * si, -sf_i);
+  expect_rounded(wz, z.data(), "inverse order " + std::to_string(order));
+  release(spec);
+}
+
+TEST(FftRealInteger, AllLayoutsAndWidths) {
+  for (int order : {0, 1, 2, 3, 4, 5, 8, 11, 13}) {
+    for (int flag : {1, 2, 4, 8}) {
+      const int grow = flag == 8 || flag == 2 ? (order + 1) / 2 : 0;  // keeps 16-bit spectra in range
+      int_real_case<Kel16s, Kel16s, KelsFFTSpec_R_16s>(kelsFFTInitAlloc_R_16s, kelsFFTFwd_RToPerm_16s_Sfs,
+                                                       kelsFFTInv_PermToR_16s_Sfs, kelsFFTFree_R_16s, Lay::Perm,
+                                                       order, flag, grow, 0);
+      int_real_case<Kel16s, Kel16s, KelsFFTSpec_R_16s>(kelsFFTInitAlloc_R_16s, kelsFFTFwd_RToPack_16s_Sfs,
+                                                       kelsFFTInv_PackToR_16s_Sfs, kelsFFTFree_R_16s, Lay::Pack,
+                                                       order, flag, grow, -1);
+      int_real_case<Kel32s, Kel32s, KelsFFTSpec_R_32s>(kelsFFTInitAlloc_R_32s, kelsFFTFwd_RToCCS_32s_Sfs,
+                                                       kelsFFTInv_CCSToR_32s_Sfs, kelsFFTFree_R_32s, Lay::Ccs,
+                                                       order, flag, 0, 1);
+      int_real_case<Kel16s, Kel32s, KelsFFTSpec_R_16s32s>(
+          kelsFFTInitAlloc_R_16s32s, kelsFFTFwd_RToCCS_16s32s_Sfs, kelsFFTInv_CCSToR_32s16s_Sfs,
+          kelsFFTFree_R_16s32s, Lay::Ccs, order, flag, 0, 0);
+    }
+  }
+  // In-place forms agree with the out-of-place ones.
+  KelsFFTSpec_R_32s* s = nullptr;
+  ASSERT_EQ(kelsFFTInitAlloc_R_32s(&s, 6, 4, 0), kelStsOk);
+  std::vector<Kel32s> a(66), b(66);
+  for (int i = 0; i < 64; ++i) a[i] = i * 1000 - 30000;
+  ASSERT_EQ(kelsFFTFwd_RToCCS_32s_Sfs(a.data(), b.data(), s, 2, nullptr), kelStsOk);
+  ASSERT_EQ(kelsFFTFwd_RToCCS_32s_ISfs(a.data(), s, 2, nullptr), kelStsOk);
+  EXPECT_EQ(a, b);
+  EXPECT_EQ(kelsFFTFwd_RToPerm_32s_Sfs(a.data(), b.data(), nullptr, 0, nullptr), kelStsNullPtr);
+  EXPECT_EQ(kelsFFTFwd_RToPerm_32s_Sfs(nullptr, b.data(), s, 0, nullptr), kelStsNullPtr);
+  EXPECT_EQ(kelsFFTInv_PackToR_16s_Sfs(nullptr, nullptr, reinterpret_cast<const KelsFFTSpec_R_16s*>(s), 0, nullptr),
+            kelStsBadContext);
+  kelsFFTFree_R_32s(s);
+}
+
+}  // namespace
+}  // namespace kels::test
