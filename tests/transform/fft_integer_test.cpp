@@ -28,6 +28,9 @@ using ref::cld;
     static constexpr bool split = split_;                                                         \
     static KelStatus init_alloc(Spec** pp, int o, int f) { return kelsFFTInitAlloc_##fam(pp, o, f, 0); } \
     static KelStatus release(Spec* s) { return kelsFFTFree_##fam(s); }                            \
+    static KelStatus init(Spec** pp, int o, int f, Kel8u* m, Kel8u* b) {                          \
+      return kelsFFTInit_##fam(pp, o, f, 0, m, b);                                                \
+    }                                                                                             \
     static KelStatus buf_size(const Spec* s, int* n) { return kelsFFTGetBufSize_##fam(s, n); }    \
     static KelStatus run(bool inv, const I* sr, const I* si, I* dr, I* di, const Spec* s, int sf, \
                          Kel8u* b) {                                                              \
@@ -164,7 +167,12 @@ TYPED_TEST(FftInteger, BadArguments) {
   fail_alloc_after(0);
   EXPECT_TRUE(b.untouched());
   F::release(spec);
-  EXPECT_EQ(F::run(false, a.data(), a.data() + 64, b.data(), bi, spec, 0, nullptr), kelStsBadContext);
+  // A released record in caller memory.
+  std::vector<Kel8u> mem(1 << 16), ibuf(1 << 16);
+  typename F::Spec* in_caller = nullptr;
+  ASSERT_EQ(F::init(&in_caller, 6, 8, mem.data(), ibuf.data()), kelStsOk);
+  ASSERT_EQ(F::release(in_caller), kelStsOk);
+  EXPECT_EQ(F::run(false, a.data(), a.data() + 64, b.data(), bi, in_caller, 0, nullptr), kelStsBadContext);
   EXPECT_TRUE(b.untouched());
 }
 

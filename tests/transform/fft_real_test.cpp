@@ -21,6 +21,9 @@ enum class Lay { Perm, Pack, Ccs };
     using Spec = KelsFFTSpec_##fam;                                                                \
     static KelStatus init_alloc(Spec** pp, int o, int f) { return kelsFFTInitAlloc_##fam(pp, o, f, 0); } \
     static KelStatus release(Spec* s) { return kelsFFTFree_##fam(s); }                             \
+    static KelStatus init(Spec** pp, int o, int f, Kel8u* m, Kel8u* b) {                           \
+      return kelsFFTInit_##fam(pp, o, f, 0, m, b);                                                 \
+    }                                                                                              \
     static KelStatus buf_size(const Spec* s, int* n) { return kelsFFTGetBufSize_##fam(s, n); }     \
     static KelStatus fwd(Lay l, const T* s, T* d, const Spec* p, Kel8u* b) {                       \
       return l == Lay::Perm ? kelsFFTFwd_RToPerm_##code(s, d, p, b)                                \
@@ -190,7 +193,12 @@ TYPED_TEST(FftReal, BadArguments) {
   }
   EXPECT_TRUE(d.untouched());
   F::release(spec);
-  EXPECT_EQ(F::fwd(Lay::Perm, a.data(), d.data(), spec, nullptr), kelStsBadContext);
+  // A released record in caller memory.
+  std::vector<Kel8u> mem(1 << 16), ibuf(1 << 16);
+  typename F::Spec* in_caller = nullptr;
+  ASSERT_EQ(F::init(&in_caller, 6, 8, mem.data(), ibuf.data()), kelStsOk);
+  ASSERT_EQ(F::release(in_caller), kelStsOk);
+  EXPECT_EQ(F::fwd(Lay::Perm, a.data(), d.data(), in_caller, nullptr), kelStsBadContext);
   EXPECT_TRUE(d.untouched());
 }
 
