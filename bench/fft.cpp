@@ -6,7 +6,6 @@
 //   ratio       = time(kels) / time(FFTW)
 //   kels_gflops = 5 N log2 N / time(kels)  (likewise fftw_gflops)
 // docs/fft_chart.py turns the JSON output into docs/fft_gflops.svg.
-#include <chrono>
 #include <cmath>
 #include <cstring>
 #include <vector>
@@ -14,13 +13,12 @@
 #include <benchmark/benchmark.h>
 
 #include "kels.h"
+#include "paired_timer.h"
 #ifdef KELS_HAVE_FFTW
 #include <fftw3.h>
 #endif
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 template <class T>
 struct KelsFft;
@@ -98,29 +96,14 @@ void BM_FFT_Ratio(benchmark::State& st) {
   }
   // Repeat short transforms so each timed batch is long against the clock.
   const int reps = n >= (1 << 14) ? 1 : (1 << 14) / n;
-  double tk = 0, tf = 0;
-  for (auto _ : st) {
-    const auto t0 = Clock::now();
-    for (int r = 0; r < reps; ++r) k.run(x, y, buf.data());
-    benchmark::ClobberMemory();
-    const auto t1 = Clock::now();
 #ifdef KELS_HAVE_FFTW
-    for (int r = 0; r < reps; ++r) f.run();
-    benchmark::ClobberMemory();
+  auto peer = [&] { f.run(); };
+  const bool has_peer = true;
+#else
+  auto peer = [] {};
+  const bool has_peer = false;
 #endif
-    const auto t2 = Clock::now();
-    tk += std::chrono::duration<double>(t1 - t0).count();
-    tf += std::chrono::duration<double>(t2 - t1).count();
-  }
-  const double calls = static_cast<double>(st.iterations()) * reps;
-  const double flops = 5.0 * n * order;
-  st.counters["kels_ns"] = 1e9 * tk / calls;
-  st.counters["kels_gflops"] = flops * calls / tk * 1e-9;
-#ifdef KELS_HAVE_FFTW
-  st.counters["fftw_ns"] = 1e9 * tf / calls;
-  st.counters["fftw_gflops"] = flops * calls / tf * 1e-9;
-  st.counters["ratio"] = tk / tf;
-#endif
+  kels::bench::time_pair(st, reps, 5.0 * n * order, "fftw", has_peer, [&] { k.run(x, y, buf.data()); }, peer);
   kelsFree(x);
   kelsFree(y);
 }

@@ -5,20 +5,18 @@
 // half-complex array layout). Counters as in fft.cpp (ratio = kels / FFTW,
 // GFLOP/s = 2.5 N log2 N / t for a real transform). Also kelsMulPerm_32f at
 // 4096 against a plain loop.
-#include <chrono>
 #include <cmath>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 
 #include "kels.h"
+#include "paired_timer.h"
 #ifdef KELS_HAVE_FFTW
 #include <fftw3.h>
 #endif
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 template <bool Inverse>
 void BM_RealFFT_Ratio(benchmark::State& st) {
@@ -38,34 +36,16 @@ void BM_RealFFT_Ratio(benchmark::State& st) {
   for (int i = 0; i < n + 2; ++i) x[i] = static_cast<Kel32f>(std::sin(0.37 * i));
   if (Inverse) x[1] = x[n + 1] = 0;
   const int reps = n >= (1 << 14) ? 1 : (1 << 14) / n;
-  double tk = 0, tf = 0;
-  for (auto _ : st) {
-    const auto t0 = Clock::now();
-    for (int r = 0; r < reps; ++r) {
-      if (Inverse) kelsFFTInv_CCSToR_32f(x, y, spec, buf.data());
-      else kelsFFTFwd_RToCCS_32f(x, y, spec, buf.data());
-    }
-    benchmark::ClobberMemory();
-    const auto t1 = Clock::now();
+  auto run_kels = [&] {
+    if (Inverse) kelsFFTInv_CCSToR_32f(x, y, spec, buf.data());
+    else kelsFFTFwd_RToCCS_32f(x, y, spec, buf.data());
+  };
 #ifdef KELS_HAVE_FFTW
-    // c2r destroys its input; it is restored only outside the timing, which
-    // the repeated calls do not need for timing purposes.
-    for (int r = 0; r < reps; ++r) fftwf_execute(plan);
-    benchmark::ClobberMemory();
-#endif
-    const auto t2 = Clock::now();
-    tk += std::chrono::duration<double>(t1 - t0).count();
-    tf += std::chrono::duration<double>(t2 - t1).count();
-  }
-  const double calls = static_cast<double>(st.iterations()) * reps;
-  const double flops = 2.5 * n * order;
-  st.counters["kels_ns"] = 1e9 * tk / calls;
-  st.counters["kels_gflops"] = flops * calls / tk * 1e-9;
-#ifdef KELS_HAVE_FFTW
-  st.counters["fftw_ns"] = 1e9 * tf / calls;
-  st.counters["fftw_gflops"] = flops * calls / tf * 1e-9;
-  st.counters["ratio"] = tk / tf;
+  // c2r overwrites its input; the repeated calls time the same work anyway.
+  kels::bench::time_pair(st, reps, 2.5 * n * order, "fftw", true, run_kels, [&] { fftwf_execute(plan); });
   fftwf_destroy_plan(plan);
+#else
+  kels::bench::time_pair(st, reps, 2.5 * n * order, "fftw", false, run_kels, [] {});
 #endif
   kelsFree(x);
   kelsFree(y);
@@ -79,32 +59,20 @@ void BM_MulPerm_Ratio(benchmark::State& st) {
     a[i] = static_cast<Kel32f>(std::sin(0.1 * i));
     b[i] = static_cast<Kel32f>(std::cos(0.3 * i));
   }
-  const int reps = 64;
-  double tk = 0, tl = 0;
-  for (auto _ : st) {
-    const auto t0 = Clock::now();
-    for (int r = 0; r < reps; ++r) kelsMulPerm_32f(a.data(), b.data(), d.data(), n);
-    benchmark::ClobberMemory();
-    const auto t1 = Clock::now();
-    for (int r = 0; r < reps; ++r) {
-      const Kel32f* pa = a.data();
-      const Kel32f* pb = b.data();
-      Kel32f* pd = d.data();
-      pd[0] = pa[0] * pb[0];
-      pd[1] = pa[1] * pb[1];
-      for (int i = 2; i < n; i += 2) {
-        pd[i] = pa[i] * pb[i] - pa[i + 1] * pb[i + 1];
-        pd[i + 1] = pa[i] * pb[i + 1] + pa[i + 1] * pb[i];
-      }
-      benchmark::DoNotOptimize(pd);
+  auto loop = [&] {
+    const Kel32f* pa = a.data();
+    const Kel32f* pb = b.data();
+    Kel32f* pd = d.data();
+    pd[0] = pa[0] * pb[0];
+    pd[1] = pa[1] * pb[1];
+    for (int i = 2; i < n; i += 2) {
+      pd[i] = pa[i] * pb[i] - pa[i + 1] * pb[i + 1];
+      pd[i + 1] = pa[i] * pb[i + 1] + pa[i + 1] * pb[i];
     }
-    benchmark::ClobberMemory();
-    const auto t2 = Clock::now();
-    tk += std::chrono::duration<double>(t1 - t0).count();
-    tl += std::chrono::duration<double>(t2 - t1).count();
-  }
-  st.counters["ratio"] = tk / tl;
-  st.counters["kels_ns"] = 1e9 * tk / (static_cast<double>(st.iterations()) * reps);
+    benchmark::DoNotOptimize(pd);
+  };
+  kels::bench::time_pair(st, 64, 0, "loop", true, [&] { kelsMulPerm_32f(a.data(), b.data(), d.data(), n); },
+                         loop);
 }
 
 }  // namespace

@@ -155,17 +155,9 @@ TYPED_TEST(FftComplex, BadArguments) {
   }
   EXPECT_TRUE(dst.untouched());
   // A released record.
-  typename F::Spec* gone = nullptr;
-  ASSERT_EQ(F::init_alloc(&gone, 5, 8), kelStsOk);
-  std::vector<Kel8u> mem(4096), ibuf(4096);
-  typename F::Spec* in_caller = nullptr;
-  int sz, isz, wsz;
-  ASSERT_EQ(F::get_size(5, 8, &sz, &isz, &wsz), kelStsOk);
-  ASSERT_EQ(F::init(&in_caller, 5, 8, mem.data(), ibuf.data()), kelStsOk);
-  ASSERT_EQ(F::release(in_caller), kelStsOk);
-  EXPECT_EQ(F::fwd(sr, si, dr, di, in_caller, nullptr), kelStsBadContext);
-  EXPECT_EQ(F::release(in_caller), kelStsBadContext);
-  EXPECT_EQ(F::release(gone), kelStsOk);
+  const ReleasedSpec<F> gone(5);
+  EXPECT_EQ(F::fwd(sr, si, dr, di, gone.spec, nullptr), kelStsBadContext);
+  EXPECT_EQ(F::release(gone.spec), kelStsBadContext);
   EXPECT_TRUE(dst.untouched());
   // Allocation failure of the per-call buffer: nothing written, no leak.
   for (int order : {5, 12, 14}) {

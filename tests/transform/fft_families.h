@@ -78,6 +78,18 @@ struct OwnedSpec {
   }
 };
 
+// A record laid into caller memory by Init and then released with Free:
+// every transform must refuse it (its memory stays valid, so the refusal is
+// observable).
+template <class F>
+struct ReleasedSpec {
+  std::vector<Kel8u> mem = std::vector<Kel8u>(1 << 16), buf = std::vector<Kel8u>(1 << 16);
+  typename F::Spec* spec = nullptr;
+  explicit ReleasedSpec(int order) {
+    if (F::init(&spec, order, 8, mem.data(), buf.data()) == kelStsOk) F::release(spec);
+  }
+};
+
 // Modes of a call.
 struct Mode {
   bool inverse = false;
