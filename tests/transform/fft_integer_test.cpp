@@ -14,6 +14,7 @@
 #include "kels.h"
 #include "reference/dft.h"
 #include "support/targets.h"
+#include "transform/fft_families.h"
 
 namespace kels::test {
 namespace {
