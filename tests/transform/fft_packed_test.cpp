@@ -121,8 +121,11 @@ void check_products(KelStatus (*mul_pack)(const T*, const T*, T*, int),
       const auto xb = hermitian(len, 97u + static_cast<unsigned>(len));
       const auto pa = packed(xa, lay), pb = packed(xb, lay);
       std::vector<T> a(pa.begin(), pa.end()), b(pb.begin(), pb.end()), d(pa.size());
-      if (variant == 0) ASSERT_EQ(mul_pack(a.data(), b.data(), d.data(), len), kelStsOk);
-      if (variant == 1) ASSERT_EQ(mul_perm(a.data(), b.data(), d.data(), len), kelStsOk);
+      if (variant == 0) {
+        ASSERT_EQ(mul_pack(a.data(), b.data(), d.data(), len), kelStsOk);
+      } else if (variant == 1) {
+        ASSERT_EQ(mul_perm(a.data(), b.data(), d.data(), len), kelStsOk);
+      }
       if (variant == 2) {  // pSrcDst = b, the conjugated operand
         d = b;
         ASSERT_EQ(conj_i(a.data(), d.data(), len), kelStsOk);
