@@ -221,7 +221,8 @@ KelStatus int_transform(const void* spec, std::uint32_t id, const I* src, O* dst
   KELS_REQUIRE_PTRS(src, dst);
   const Header<double>* h = real_header<double>(spec);
   const std::size_t n = std::size_t{1} << h->order;
-  const std::size_t packed = lay == Layout::Ccs ? n + 2 : n;
+  // CCS holds N + 2 values, except R[0], 0 for N = 1.
+  const std::size_t packed = lay == Layout::Ccs ? (n == 1 ? 2 : n + 2) : n;
   const std::size_t in_len = inv ? packed : n, out_len = inv ? n : packed;
   const WorkArea work(h->order < 4 ? nullptr : buf, h->order < 4 ? 0 : h->work_bytes);
   if (work.failed()) return kelStsNoMemory;

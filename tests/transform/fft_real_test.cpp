@@ -56,7 +56,7 @@ TYPED_TEST_SUITE(FftReal, RealFamilies);
 
 // The packed array of the spectrum X (first N/2 + 1 values used).
 std::vector<long double> pack(const std::vector<cld>& X, std::size_t n, Lay l) {
-  std::vector<long double> p(l == Lay::Ccs ? n + 2 : n, 0);
+  std::vector<long double> p(l == Lay::Ccs ? (n == 1 ? 2 : n + 2) : n, 0);
   if (l == Lay::Ccs) {
     for (std::size_t k = 0; k <= n / 2; ++k) {
       p[2 * k] = X[k].real();
@@ -89,7 +89,7 @@ void check(int order, int flag, Lay lay, bool in_place, bool null_buf) {
   typename F::Spec* spec = nullptr;
   ASSERT_EQ(F::init_alloc(&spec, order, flag), kelStsOk);
   const std::size_t n = std::size_t{1} << order;
-  const std::size_t len = lay == Lay::Ccs ? n + 2 : n;
+  const std::size_t len = lay == Lay::Ccs ? (n == 1 ? 2 : n + 2) : n;
   std::mt19937 gen(static_cast<unsigned>(order * 7 + flag));
   std::uniform_real_distribution<double> u(-1, 1);
   std::vector<cld> xc(n);
@@ -228,7 +228,7 @@ void int_real_case(KelStatus (*init)(Spec**, int, int, int), KelStatus (*fwd)(co
                    Lay lay, int order, int flag, int sf_f, int sf_i) {
   Spec* spec = nullptr;
   ASSERT_EQ(init(&spec, order, flag, 0), kelStsOk);
-  const std::size_t n = std::size_t{1} << order, len = lay == Lay::Ccs ? n + 2 : n;
+  const std::size_t n = std::size_t{1} << order, len = lay == Lay::Ccs ? (n == 1 ? 2 : n + 2) : n;
   std::mt19937 gen(static_cast<unsigned>(order + flag));
   std::uniform_int_distribution<int> u(-20000, 20000);
   std::vector<I> x(n);
