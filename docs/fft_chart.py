@@ -24,6 +24,8 @@ def load(path):
         if b.get("aggregate_name") not in (None, "median"):
             continue
         name = b.get("run_name", b["name"])  # e.g. FFT32fc_Ratio/10
+        if not name.startswith("FFT") or "_Ratio/" not in name:
+            continue  # e.g. the MulPerm comparison: reported, not charted
         prec, order = name.split("_Ratio/")
         rows.setdefault(prec, {})[int(order)] = b
     return rows
@@ -45,7 +47,7 @@ def report(rows):
 
 
 def svg(rows, out):
-    w, h, ml, mb, mt, mr = 720, 420, 60, 50, 30, 150
+    w, h, ml, mb, mt, mr = 760, 420, 60, 50, 30, 190
     orders = sorted({o for r in rows.values() for o in r})
     ymax = max(max(b.get("kels_gflops", 0), b.get("fftw_gflops", 0))
                for r in rows.values() for b in r.values())
@@ -55,28 +57,27 @@ def svg(rows, out):
     parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{w}" height="{h}" '
              f'font-family="sans-serif" font-size="12">',
              f'<rect width="{w}" height="{h}" fill="white"/>',
-             f'<text x="{w / 2 - 120}" y="18">Complex FFT, forward, out of place</text>']
+             f'<text x="{w / 2 - 120}" y="18">FFT, out of place, one thread</text>']
     for v in range(0, int(ymax) + 1, 5):
         parts.append(f'<line x1="{ml}" y1="{y(v)}" x2="{w - mr}" y2="{y(v)}" stroke="#ddd"/>')
         parts.append(f'<text x="{ml - 30}" y="{y(v) + 4}">{v}</text>')
     for o in orders:
         parts.append(f'<text x="{x(o) - 10}" y="{h - mb + 18}">2^{o}</text>')
     parts.append(f'<text x="{w / 2 - 20}" y="{h - 10}">N</text>')
-    parts.append(f'<text x="8" y="{mt - 8}">GFLOP/s (5 N log2 N / t)</text>')
-    colours = {"FFT32fc kels": "#d62728", "FFT32fc fftw": "#ff9896",
-               "FFT64fc kels": "#1f77b4", "FFT64fc fftw": "#aec7e8"}
+    parts.append(f'<text x="8" y="{mt - 8}">GFLOP/s (5 N log2 N / t complex, 2.5 N log2 N / t real)</text>')
+    palette = [("#d62728", "#ff9896"), ("#1f77b4", "#aec7e8"), ("#2ca02c", "#98df8a")]
     legend_y = mt + 10
-    for prec, by_order in sorted(rows.items()):
+    for idx, (prec, by_order) in enumerate(sorted(rows.items())):
         for lib in ("kels", "fftw"):
             key = f"{lib}_gflops"
             pts = [(x(o), y(b[key])) for o, b in sorted(by_order.items()) if key in b]
             if not pts:
                 continue
-            c = colours.get(f"{prec} {lib}", "black")
+            c = palette[idx % len(palette)][0 if lib == "kels" else 1]
             dash = ' stroke-dasharray="5,3"' if lib == "fftw" else ""
             parts.append('<polyline fill="none" stroke-width="2" stroke="%s"%s points="%s"/>'
                          % (c, dash, " ".join(f"{a:.1f},{b:.1f}" for a, b in pts)))
-            label = f"{prec[3:]} {'kels' if lib == 'kels' else 'FFTW'}"
+            label = f"{prec[3:].replace('_', ' ')} {'kels' if lib == 'kels' else 'FFTW'}"
             parts.append(f'<line x1="{w - mr + 10}" y1="{legend_y}" x2="{w - mr + 40}" '
                          f'y2="{legend_y}" stroke="{c}" stroke-width="2"{dash}/>')
             parts.append(f'<text x="{w - mr + 45}" y="{legend_y + 4}">{label}</text>')
