@@ -498,7 +498,31 @@ void Run(const FftPlan<T>& p, const FftArgs<T>& a) {
   scalar::Engine<T, S, VecPasses<T, S>>{p, a}.run();
 }
 
+// d = a * b (or a * conj(b)) for `pairs` interleaved complex values; d may
+// equal a or b.
+template <bool CONJ, class T>
+void MulPairsT(const T* a, const T* b, T* d, size_t pairs) {
+  const hn::CappedTag<T, 32 / sizeof(T)> dt;
+  const CxOps<decltype(dt), 2, CONJ> o(dt);
+  const size_t step = hn::Lanes(dt) / 2;
+  size_t i = 0;
+  if (step >= 1) {
+    for (; i + step <= pairs; i += step) o.store(d, nullptr, i, o.mul(o.load(a, nullptr, i), o.load(b, nullptr, i)));
+  }
+  for (; i < pairs; ++i) {
+    const scalar::Cx<T> v = scalar::mul(scalar::Cx<T>{a[2 * i], a[2 * i + 1]}, scalar::Cx<T>{b[2 * i], b[2 * i + 1]}, CONJ);
+    d[2 * i] = v.r;
+    d[2 * i + 1] = v.i;
+  }
+}
+
 #else  // HWY_SCALAR: the portable twin
+
+template <bool CONJ, class T>
+void MulPairsT(const T* a, const T* b, T* d, size_t pairs) {
+  scalar::mul_pairs(a, b, d, pairs, CONJ);
+}
+
 
 template <class T, int S>
 void Run(const FftPlan<T>& p, const FftArgs<T>& a) {
@@ -506,6 +530,15 @@ void Run(const FftPlan<T>& p, const FftArgs<T>& a) {
 }
 
 #endif
+
+void MulPairsF32(const float* a, const float* b, float* d, size_t n, bool conj) {
+  if (conj) MulPairsT<true>(a, b, d, n);
+  else MulPairsT<false>(a, b, d, n);
+}
+void MulPairsF64(const double* a, const double* b, double* d, size_t n, bool conj) {
+  if (conj) MulPairsT<true>(a, b, d, n);
+  else MulPairsT<false>(a, b, d, n);
+}
 
 void FftInterleavedF32(const FftPlan<float>& p, const FftArgs<float>& a) { Run<float, 2>(p, a); }
 void FftInterleavedF64(const FftPlan<double>& p, const FftArgs<double>& a) { Run<double, 2>(p, a); }
@@ -523,6 +556,15 @@ HWY_EXPORT(FftInterleavedF32);
 HWY_EXPORT(FftInterleavedF64);
 HWY_EXPORT(FftSplitF32);
 HWY_EXPORT(FftSplitF64);
+HWY_EXPORT(MulPairsF32);
+HWY_EXPORT(MulPairsF64);
+
+void mul_pairs(const float* a, const float* b, float* d, std::size_t n, bool conj) {
+  HWY_DYNAMIC_DISPATCH(MulPairsF32)(a, b, d, n, conj);
+}
+void mul_pairs(const double* a, const double* b, double* d, std::size_t n, bool conj) {
+  HWY_DYNAMIC_DISPATCH(MulPairsF64)(a, b, d, n, conj);
+}
 
 void fft_interleaved(const FftPlan<float>& p, const FftArgs<float>& a) {
   HWY_DYNAMIC_DISPATCH(FftInterleavedF32)(p, a);

@@ -72,6 +72,11 @@ void fft_interleaved(const FftPlan<double>& p, const FftArgs<double>& a);
 void fft_split(const FftPlan<float>& p, const FftArgs<float>& a);
 void fft_split(const FftPlan<double>& p, const FftArgs<double>& a);
 
+// d[i] = a[i] * b[i] (a[i] * conj(b[i]) when conj) for n interleaved complex
+// values; d may equal a or b. Used by the packed-spectrum products.
+void mul_pairs(const float* a, const float* b, float* d, std::size_t n, bool conj);
+void mul_pairs(const double* a, const double* b, double* d, std::size_t n, bool conj);
+
 // Offset (in T units) of the stage block of length L inside a first-level
 // table: the sum of 2 * 3L'/4 over the earlier stages L' >= 8.
 inline std::size_t stage_offset(int n, std::size_t L) {
@@ -122,6 +127,15 @@ template <class T, int S>
 inline T* grp_re(T* w, std::size_t b, int c) { return w + 8 * b + (S == 2 ? 2 * c : c); }
 template <class T, int S>
 inline std::size_t grp_im_off() { return S == 2 ? 1 : 4; }
+
+template <class T>
+void mul_pairs(const T* a, const T* b, T* d, std::size_t n, bool conj) {
+  for (std::size_t i = 0; i < n; ++i) {
+    const Cx<T> v = mul(Cx<T>{a[2 * i], a[2 * i + 1]}, Cx<T>{b[2 * i], b[2 * i + 1]}, conj);
+    d[2 * i] = v.r;
+    d[2 * i + 1] = v.i;
+  }
+}
 
 // Bit reversal of `order` bits through the half table of ceil(order/2) bits.
 struct BitRev {

@@ -8,6 +8,7 @@
 
 #include "frame/common.h"
 #include "frame/scale.h"
+#include "kernels/fft.h"
 
 namespace kels::packed {
 namespace {
@@ -61,9 +62,14 @@ KelStatus mul(const T* a, const T* b, T* d, int len, bool perm, bool conj_b, int
   KELS_REQUIRE_LEN(len);
   const Arith<T> ar{sf};
   const Shape s = perm ? perm_shape(len) : pack_shape(len);
+  // The pairs first: in place, d is b, and the real entries lie outside them.
+  if constexpr (std::is_floating_point_v<T>) {
+    kernels::mul_pairs(a + s.first_pair, b + s.first_pair, d + s.first_pair,
+                       static_cast<std::size_t>(s.pairs), conj_b);
+  }
   d[0] = ar.real(a[0], b[0]);
   if (s.nyq >= 0) d[s.nyq] = ar.real(a[s.nyq], b[s.nyq]);
-  for (int p = 0; p < s.pairs; ++p) {
+  for (int p = 0; p < (std::is_floating_point_v<T> ? 0 : s.pairs); ++p) {
     const int i = s.first_pair + 2 * p;
     T re, im;
     ar.cplx(a[i], a[i + 1], b[i], b[i + 1], conj_b, &re, &im);

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <complex>
 #include <random>
+#include <string>
 #include <vector>
 
 #include "kels.h"
@@ -142,8 +143,10 @@ void check_products(KelStatus (*mul_pack)(const T*, const T*, T*, int),
 }
 
 TEST(FftPacked, ProductsFloat) {
-  check_products<Kel32f, Kel32fc>(kelsMulPack_32f, kelsMulPerm_32f, kelsMulPackConj_32f_I);
-  check_products<Kel64f, Kel64fc>(kelsMulPack_64f, kelsMulPerm_64f, kelsMulPackConj_64f_I);
+  for_each_target([](const std::string&) {
+    check_products<Kel32f, Kel32fc>(kelsMulPack_32f, kelsMulPerm_32f, kelsMulPackConj_32f_I);
+    check_products<Kel64f, Kel64fc>(kelsMulPack_64f, kelsMulPerm_64f, kelsMulPackConj_64f_I);
+  });
   // In-place forms give the out-of-place result.
   std::vector<Kel32f> a = {1, 2, 3, 4, 5, 6}, b = {7, 8, 9, 10, 11, 12}, d(6), bi = b;
   ASSERT_EQ(kelsMulPerm_32f(a.data(), b.data(), d.data(), 6), kelStsOk);
