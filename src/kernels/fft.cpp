@@ -502,7 +502,7 @@ void Run(const FftPlan<T>& p, const FftArgs<T>& a) {
 // equal a or b.
 template <bool CONJ, class T>
 void MulPairsT(const T* a, const T* b, T* d, size_t pairs) {
-  const hn::CappedTag<T, 32 / sizeof(T)> dt;
+  const hn::ScalableTag<T> dt;
   const CxOps<decltype(dt), 2, CONJ> o(dt);
   const size_t step = hn::Lanes(dt) / 2;
   size_t i = 0;
