@@ -454,6 +454,198 @@ KELAPI KelStatus kelsFindNearestOne_16u(Kel16u inpVal, Kel16u* pOutVal, int* pOu
 KELAPI KelStatus kelsFindNearest_16u(const Kel16u* pVals, Kel16u* pOutVals, int* pOutIndexes, int len, const Kel16u* pTable, int tblLen);
 
 /* @decls-transform */
+/* FFT specification records: sizes in bytes, creation in caller memory or
+ * by the library, release, work-buffer size. Orders 0..30. */
+KELAPI KelStatus kelsFFTGetSize_C_16sc(int order, int flag, int hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+KELAPI KelStatus kelsFFTInit_C_16sc(KelsFFTSpec_C_16sc** ppSpec, int order, int flag, int hint, Kel8u* pSpec, Kel8u* pSpecBuffer);
+KELAPI KelStatus kelsFFTInitAlloc_C_16sc(KelsFFTSpec_C_16sc** ppSpec, int order, int flag, int hint);
+KELAPI KelStatus kelsFFTFree_C_16sc(KelsFFTSpec_C_16sc* pSpec);
+KELAPI KelStatus kelsFFTGetBufSize_C_16sc(const KelsFFTSpec_C_16sc* pSpec, int* pBufferSize);
+KELAPI KelStatus kelsFFTGetSize_C_16s(int order, int flag, int hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+KELAPI KelStatus kelsFFTInit_C_16s(KelsFFTSpec_C_16s** ppSpec, int order, int flag, int hint, Kel8u* pSpec, Kel8u* pSpecBuffer);
+KELAPI KelStatus kelsFFTInitAlloc_C_16s(KelsFFTSpec_C_16s** ppSpec, int order, int flag, int hint);
+KELAPI KelStatus kelsFFTFree_C_16s(KelsFFTSpec_C_16s* pSpec);
+KELAPI KelStatus kelsFFTGetBufSize_C_16s(const KelsFFTSpec_C_16s* pSpec, int* pBufferSize);
+KELAPI KelStatus kelsFFTGetSize_R_16s(int order, int flag, int hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+KELAPI KelStatus kelsFFTInit_R_16s(KelsFFTSpec_R_16s** ppSpec, int order, int flag, int hint, Kel8u* pSpec, Kel8u* pSpecBuffer);
+KELAPI KelStatus kelsFFTInitAlloc_R_16s(KelsFFTSpec_R_16s** ppSpec, int order, int flag, int hint);
+KELAPI KelStatus kelsFFTFree_R_16s(KelsFFTSpec_R_16s* pSpec);
+KELAPI KelStatus kelsFFTGetBufSize_R_16s(const KelsFFTSpec_R_16s* pSpec, int* pBufferSize);
+KELAPI KelStatus kelsFFTGetSize_C_32fc(int order, int flag, int hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+KELAPI KelStatus kelsFFTInit_C_32fc(KelsFFTSpec_C_32fc** ppSpec, int order, int flag, int hint, Kel8u* pSpec, Kel8u* pSpecBuffer);
+KELAPI KelStatus kelsFFTInitAlloc_C_32fc(KelsFFTSpec_C_32fc** ppSpec, int order, int flag, int hint);
+KELAPI KelStatus kelsFFTFree_C_32fc(KelsFFTSpec_C_32fc* pSpec);
+KELAPI KelStatus kelsFFTGetBufSize_C_32fc(const KelsFFTSpec_C_32fc* pSpec, int* pBufferSize);
+KELAPI KelStatus kelsFFTGetSize_C_32f(int order, int flag, int hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+KELAPI KelStatus kelsFFTInit_C_32f(KelsFFTSpec_C_32f** ppSpec, int order, int flag, int hint, Kel8u* pSpec, Kel8u* pSpecBuffer);
+KELAPI KelStatus kelsFFTInitAlloc_C_32f(KelsFFTSpec_C_32f** ppSpec, int order, int flag, int hint);
+KELAPI KelStatus kelsFFTFree_C_32f(KelsFFTSpec_C_32f* pSpec);
+KELAPI KelStatus kelsFFTGetBufSize_C_32f(const KelsFFTSpec_C_32f* pSpec, int* pBufferSize);
+KELAPI KelStatus kelsFFTGetSize_R_32f(int order, int flag, int hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+KELAPI KelStatus kelsFFTInit_R_32f(KelsFFTSpec_R_32f** ppSpec, int order, int flag, int hint, Kel8u* pSpec, Kel8u* pSpecBuffer);
+KELAPI KelStatus kelsFFTInitAlloc_R_32f(KelsFFTSpec_R_32f** ppSpec, int order, int flag, int hint);
+KELAPI KelStatus kelsFFTFree_R_32f(KelsFFTSpec_R_32f* pSpec);
+KELAPI KelStatus kelsFFTGetBufSize_R_32f(const KelsFFTSpec_R_32f* pSpec, int* pBufferSize);
+KELAPI KelStatus kelsFFTGetSize_C_64fc(int order, int flag, int hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+KELAPI KelStatus kelsFFTInit_C_64fc(KelsFFTSpec_C_64fc** ppSpec, int order, int flag, int hint, Kel8u* pSpec, Kel8u* pSpecBuffer);
+KELAPI KelStatus kelsFFTInitAlloc_C_64fc(KelsFFTSpec_C_64fc** ppSpec, int order, int flag, int hint);
+KELAPI KelStatus kelsFFTFree_C_64fc(KelsFFTSpec_C_64fc* pSpec);
+KELAPI KelStatus kelsFFTGetBufSize_C_64fc(const KelsFFTSpec_C_64fc* pSpec, int* pBufferSize);
+KELAPI KelStatus kelsFFTGetSize_C_64f(int order, int flag, int hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+KELAPI KelStatus kelsFFTInit_C_64f(KelsFFTSpec_C_64f** ppSpec, int order, int flag, int hint, Kel8u* pSpec, Kel8u* pSpecBuffer);
+KELAPI KelStatus kelsFFTInitAlloc_C_64f(KelsFFTSpec_C_64f** ppSpec, int order, int flag, int hint);
+KELAPI KelStatus kelsFFTFree_C_64f(KelsFFTSpec_C_64f* pSpec);
+KELAPI KelStatus kelsFFTGetBufSize_C_64f(const KelsFFTSpec_C_64f* pSpec, int* pBufferSize);
+KELAPI KelStatus kelsFFTGetSize_R_64f(int order, int flag, int hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+KELAPI KelStatus kelsFFTInit_R_64f(KelsFFTSpec_R_64f** ppSpec, int order, int flag, int hint, Kel8u* pSpec, Kel8u* pSpecBuffer);
+KELAPI KelStatus kelsFFTInitAlloc_R_64f(KelsFFTSpec_R_64f** ppSpec, int order, int flag, int hint);
+KELAPI KelStatus kelsFFTFree_R_64f(KelsFFTSpec_R_64f* pSpec);
+KELAPI KelStatus kelsFFTGetBufSize_R_64f(const KelsFFTSpec_R_64f* pSpec, int* pBufferSize);
+KELAPI KelStatus kelsFFTGetSize_C_32sc(int order, int flag, int hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+KELAPI KelStatus kelsFFTInit_C_32sc(KelsFFTSpec_C_32sc** ppSpec, int order, int flag, int hint, Kel8u* pSpec, Kel8u* pSpecBuffer);
+KELAPI KelStatus kelsFFTInitAlloc_C_32sc(KelsFFTSpec_C_32sc** ppSpec, int order, int flag, int hint);
+KELAPI KelStatus kelsFFTFree_C_32sc(KelsFFTSpec_C_32sc* pSpec);
+KELAPI KelStatus kelsFFTGetBufSize_C_32sc(const KelsFFTSpec_C_32sc* pSpec, int* pBufferSize);
+KELAPI KelStatus kelsFFTGetSize_C_32s(int order, int flag, int hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+KELAPI KelStatus kelsFFTInit_C_32s(KelsFFTSpec_C_32s** ppSpec, int order, int flag, int hint, Kel8u* pSpec, Kel8u* pSpecBuffer);
+KELAPI KelStatus kelsFFTInitAlloc_C_32s(KelsFFTSpec_C_32s** ppSpec, int order, int flag, int hint);
+KELAPI KelStatus kelsFFTFree_C_32s(KelsFFTSpec_C_32s* pSpec);
+KELAPI KelStatus kelsFFTGetBufSize_C_32s(const KelsFFTSpec_C_32s* pSpec, int* pBufferSize);
+KELAPI KelStatus kelsFFTGetSize_R_32s(int order, int flag, int hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+KELAPI KelStatus kelsFFTInit_R_32s(KelsFFTSpec_R_32s** ppSpec, int order, int flag, int hint, Kel8u* pSpec, Kel8u* pSpecBuffer);
+KELAPI KelStatus kelsFFTInitAlloc_R_32s(KelsFFTSpec_R_32s** ppSpec, int order, int flag, int hint);
+KELAPI KelStatus kelsFFTFree_R_32s(KelsFFTSpec_R_32s* pSpec);
+KELAPI KelStatus kelsFFTGetBufSize_R_32s(const KelsFFTSpec_R_32s* pSpec, int* pBufferSize);
+KELAPI KelStatus kelsFFTGetSize_R_16s32s(int order, int flag, int hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+KELAPI KelStatus kelsFFTInit_R_16s32s(KelsFFTSpec_R_16s32s** ppSpec, int order, int flag, int hint, Kel8u* pSpec, Kel8u* pSpecBuffer);
+KELAPI KelStatus kelsFFTInitAlloc_R_16s32s(KelsFFTSpec_R_16s32s** ppSpec, int order, int flag, int hint);
+KELAPI KelStatus kelsFFTFree_R_16s32s(KelsFFTSpec_R_16s32s* pSpec);
+KELAPI KelStatus kelsFFTGetBufSize_R_16s32s(const KelsFFTSpec_R_16s32s* pSpec, int* pBufferSize);
+/* Complex FFT of length 2^order; pBuffer null or of GetBufSize bytes. */
+KELAPI KelStatus kelsFFTFwd_CToC_32fc(const Kel32fc* pSrc, Kel32fc* pDst, const KelsFFTSpec_C_32fc* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_CToC_32fc_I(Kel32fc* pSrcDst, const KelsFFTSpec_C_32fc* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_CToC_64fc(const Kel64fc* pSrc, Kel64fc* pDst, const KelsFFTSpec_C_64fc* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_CToC_64fc_I(Kel64fc* pSrcDst, const KelsFFTSpec_C_64fc* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_CToC_32f(const Kel32f* pSrcRe, const Kel32f* pSrcIm, Kel32f* pDstRe, Kel32f* pDstIm, const KelsFFTSpec_C_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_CToC_32f_I(Kel32f* pSrcDstRe, Kel32f* pSrcDstIm, const KelsFFTSpec_C_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_CToC_64f(const Kel64f* pSrcRe, const Kel64f* pSrcIm, Kel64f* pDstRe, Kel64f* pDstIm, const KelsFFTSpec_C_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_CToC_64f_I(Kel64f* pSrcDstRe, Kel64f* pSrcDstIm, const KelsFFTSpec_C_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_32fc(const Kel32fc* pSrc, Kel32fc* pDst, const KelsFFTSpec_C_32fc* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_32fc_I(Kel32fc* pSrcDst, const KelsFFTSpec_C_32fc* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_64fc(const Kel64fc* pSrc, Kel64fc* pDst, const KelsFFTSpec_C_64fc* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_64fc_I(Kel64fc* pSrcDst, const KelsFFTSpec_C_64fc* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_32f(const Kel32f* pSrcRe, const Kel32f* pSrcIm, Kel32f* pDstRe, Kel32f* pDstIm, const KelsFFTSpec_C_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_32f_I(Kel32f* pSrcDstRe, Kel32f* pSrcDstIm, const KelsFFTSpec_C_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_64f(const Kel64f* pSrcRe, const Kel64f* pSrcIm, Kel64f* pDstRe, Kel64f* pDstIm, const KelsFFTSpec_C_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_64f_I(Kel64f* pSrcDstRe, Kel64f* pSrcDstIm, const KelsFFTSpec_C_64f* pSpec, Kel8u* pBuffer);
+/* Real FFT of length 2^order into the packed layouts Perm, Pack (N values)
+ * and CCS (N + 2 values), and back; _I in place (CCS forward: N + 2). */
+KELAPI KelStatus kelsFFTFwd_RToPerm_32f(const Kel32f* pSrc, Kel32f* pDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPerm_32f_I(Kel32f* pSrcDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_32f(const Kel32f* pSrc, Kel32f* pDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_32f_I(Kel32f* pSrcDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_32f(const Kel32f* pSrc, Kel32f* pDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_32f_I(Kel32f* pSrcDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_32f(const Kel32f* pSrc, Kel32f* pDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_32f_I(Kel32f* pSrcDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_32f(const Kel32f* pSrc, Kel32f* pDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_32f_I(Kel32f* pSrcDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_32f(const Kel32f* pSrc, Kel32f* pDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_32f_I(Kel32f* pSrcDst, const KelsFFTSpec_R_32f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPerm_64f(const Kel64f* pSrc, Kel64f* pDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPerm_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_64f(const Kel64f* pSrc, Kel64f* pDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_64f(const Kel64f* pSrc, Kel64f* pDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_64f(const Kel64f* pSrc, Kel64f* pDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_64f(const Kel64f* pSrc, Kel64f* pDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_64f(const Kel64f* pSrc, Kel64f* pDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_64f_I(Kel64f* pSrcDst, const KelsFFTSpec_R_64f* pSpec, Kel8u* pBuffer);
+/* Integer real FFT: exact transform times the record scale times
+ * 2^-scaleFactor, rounded to nearest even and saturated. */
+KELAPI KelStatus kelsFFTFwd_RToPerm_16s_Sfs(const Kel16s* pSrc, Kel16s* pDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPerm_16s_ISfs(Kel16s* pSrcDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_16s_Sfs(const Kel16s* pSrc, Kel16s* pDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_16s_ISfs(Kel16s* pSrcDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_16s_Sfs(const Kel16s* pSrc, Kel16s* pDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_16s_ISfs(Kel16s* pSrcDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_16s_Sfs(const Kel16s* pSrc, Kel16s* pDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_16s_ISfs(Kel16s* pSrcDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_16s_Sfs(const Kel16s* pSrc, Kel16s* pDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_16s_ISfs(Kel16s* pSrcDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_16s_Sfs(const Kel16s* pSrc, Kel16s* pDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_16s_ISfs(Kel16s* pSrcDst, const KelsFFTSpec_R_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPerm_32s_Sfs(const Kel32s* pSrc, Kel32s* pDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPerm_32s_ISfs(Kel32s* pSrcDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_32s_Sfs(const Kel32s* pSrc, Kel32s* pDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToPack_32s_ISfs(Kel32s* pSrcDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_32s_Sfs(const Kel32s* pSrc, Kel32s* pDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_32s_ISfs(Kel32s* pSrcDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_32s_Sfs(const Kel32s* pSrc, Kel32s* pDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PermToR_32s_ISfs(Kel32s* pSrcDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_32s_Sfs(const Kel32s* pSrc, Kel32s* pDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_PackToR_32s_ISfs(Kel32s* pSrcDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_32s_Sfs(const Kel32s* pSrc, Kel32s* pDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_32s_ISfs(Kel32s* pSrcDst, const KelsFFTSpec_R_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_RToCCS_16s32s_Sfs(const Kel16s* pSrc, Kel32s* pDst, const KelsFFTSpec_R_16s32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CCSToR_32s16s_Sfs(const Kel32s* pSrc, Kel16s* pDst, const KelsFFTSpec_R_16s32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+/* Packed spectra: products of Pack / Perm arrays (len reals), the Pack
+ * product with the conjugate of the in-place operand, and expansion of a
+ * Pack / Perm / CCS spectrum of a real signal of length len into len complex
+ * values (in place: the first reals of pSrcDst hold the packed spectrum). */
+KELAPI KelStatus kelsMulPack_32f(const Kel32f* pSrc1, const Kel32f* pSrc2, Kel32f* pDst, int len);
+KELAPI KelStatus kelsMulPack_32f_I(const Kel32f* pSrc, Kel32f* pSrcDst, int len);
+KELAPI KelStatus kelsMulPerm_32f(const Kel32f* pSrc1, const Kel32f* pSrc2, Kel32f* pDst, int len);
+KELAPI KelStatus kelsMulPerm_32f_I(const Kel32f* pSrc, Kel32f* pSrcDst, int len);
+KELAPI KelStatus kelsMulPackConj_32f_I(const Kel32f* pSrc, Kel32f* pSrcDst, int len);
+KELAPI KelStatus kelsMulPack_64f(const Kel64f* pSrc1, const Kel64f* pSrc2, Kel64f* pDst, int len);
+KELAPI KelStatus kelsMulPack_64f_I(const Kel64f* pSrc, Kel64f* pSrcDst, int len);
+KELAPI KelStatus kelsMulPerm_64f(const Kel64f* pSrc1, const Kel64f* pSrc2, Kel64f* pDst, int len);
+KELAPI KelStatus kelsMulPerm_64f_I(const Kel64f* pSrc, Kel64f* pSrcDst, int len);
+KELAPI KelStatus kelsMulPackConj_64f_I(const Kel64f* pSrc, Kel64f* pSrcDst, int len);
+KELAPI KelStatus kelsMulPack_16s_Sfs(const Kel16s* pSrc1, const Kel16s* pSrc2, Kel16s* pDst, int len, int scaleFactor);
+KELAPI KelStatus kelsMulPack_16s_ISfs(const Kel16s* pSrc, Kel16s* pSrcDst, int len, int scaleFactor);
+KELAPI KelStatus kelsMulPerm_16s_Sfs(const Kel16s* pSrc1, const Kel16s* pSrc2, Kel16s* pDst, int len, int scaleFactor);
+KELAPI KelStatus kelsMulPerm_16s_ISfs(const Kel16s* pSrc, Kel16s* pSrcDst, int len, int scaleFactor);
+KELAPI KelStatus kelsConjPack_32fc(const Kel32f* pSrc, Kel32fc* pDst, int len);
+KELAPI KelStatus kelsConjPack_32fc_I(Kel32fc* pSrcDst, int len);
+KELAPI KelStatus kelsConjPerm_32fc(const Kel32f* pSrc, Kel32fc* pDst, int len);
+KELAPI KelStatus kelsConjPerm_32fc_I(Kel32fc* pSrcDst, int len);
+KELAPI KelStatus kelsConjCcs_32fc(const Kel32f* pSrc, Kel32fc* pDst, int len);
+KELAPI KelStatus kelsConjCcs_32fc_I(Kel32fc* pSrcDst, int len);
+KELAPI KelStatus kelsConjPack_64fc(const Kel64f* pSrc, Kel64fc* pDst, int len);
+KELAPI KelStatus kelsConjPack_64fc_I(Kel64fc* pSrcDst, int len);
+KELAPI KelStatus kelsConjPerm_64fc(const Kel64f* pSrc, Kel64fc* pDst, int len);
+KELAPI KelStatus kelsConjPerm_64fc_I(Kel64fc* pSrcDst, int len);
+KELAPI KelStatus kelsConjCcs_64fc(const Kel64f* pSrc, Kel64fc* pDst, int len);
+KELAPI KelStatus kelsConjCcs_64fc_I(Kel64fc* pSrcDst, int len);
+KELAPI KelStatus kelsConjPack_16sc(const Kel16s* pSrc, Kel16sc* pDst, int len);
+KELAPI KelStatus kelsConjPack_16sc_I(Kel16sc* pSrcDst, int len);
+KELAPI KelStatus kelsConjPerm_16sc(const Kel16s* pSrc, Kel16sc* pDst, int len);
+KELAPI KelStatus kelsConjPerm_16sc_I(Kel16sc* pSrcDst, int len);
+KELAPI KelStatus kelsConjCcs_16sc(const Kel16s* pSrc, Kel16sc* pDst, int len);
+KELAPI KelStatus kelsConjCcs_16sc_I(Kel16sc* pSrcDst, int len);
+/* Integer complex FFT: exact transform times the record scale times
+ * 2^-scaleFactor, rounded to nearest even and saturated. */
+KELAPI KelStatus kelsFFTFwd_CToC_16sc_Sfs(const Kel16sc* pSrc, Kel16sc* pDst, const KelsFFTSpec_C_16sc* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_CToC_16sc_ISfs(Kel16sc* pSrcDst, const KelsFFTSpec_C_16sc* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_CToC_32sc_Sfs(const Kel32sc* pSrc, Kel32sc* pDst, const KelsFFTSpec_C_32sc* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_CToC_32sc_ISfs(Kel32sc* pSrcDst, const KelsFFTSpec_C_32sc* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_CToC_16s_Sfs(const Kel16s* pSrcRe, const Kel16s* pSrcIm, Kel16s* pDstRe, Kel16s* pDstIm, const KelsFFTSpec_C_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_CToC_16s_ISfs(Kel16s* pSrcDstRe, Kel16s* pSrcDstIm, const KelsFFTSpec_C_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_CToC_32s_Sfs(const Kel32s* pSrcRe, const Kel32s* pSrcIm, Kel32s* pDstRe, Kel32s* pDstIm, const KelsFFTSpec_C_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTFwd_CToC_32s_ISfs(Kel32s* pSrcDstRe, Kel32s* pSrcDstIm, const KelsFFTSpec_C_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_16sc_Sfs(const Kel16sc* pSrc, Kel16sc* pDst, const KelsFFTSpec_C_16sc* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_16sc_ISfs(Kel16sc* pSrcDst, const KelsFFTSpec_C_16sc* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_32sc_Sfs(const Kel32sc* pSrc, Kel32sc* pDst, const KelsFFTSpec_C_32sc* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_32sc_ISfs(Kel32sc* pSrcDst, const KelsFFTSpec_C_32sc* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_16s_Sfs(const Kel16s* pSrcRe, const Kel16s* pSrcIm, Kel16s* pDstRe, Kel16s* pDstIm, const KelsFFTSpec_C_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_16s_ISfs(Kel16s* pSrcDstRe, Kel16s* pSrcDstIm, const KelsFFTSpec_C_16s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_32s_Sfs(const Kel32s* pSrcRe, const Kel32s* pSrcIm, Kel32s* pDstRe, Kel32s* pDstIm, const KelsFFTSpec_C_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
+KELAPI KelStatus kelsFFTInv_CToC_32s_ISfs(Kel32s* pSrcDstRe, Kel32s* pSrcDstIm, const KelsFFTSpec_C_32s* pSpec, int scaleFactor, Kel8u* pBuffer);
 
 /* @decls-fir */
 /* Single-rate FIR filters on a state record (GetStateSize + Init, or InitAlloc + Free).

@@ -107,6 +107,25 @@ typedef enum { kelRndZero = 0, kelRndNear = 1, kelRndFinancial = 2 } KelRoundMod
  * family adds its typedefs below. */
 
 /* @records-transform */
+/* FFT specification records (one family per data layout) and the scale
+ * flags of their GetSize/Init/InitAlloc functions. */
+#define KEL_FFT_SCALE_FWD_N  1 /* forward result times 1/N */
+#define KEL_FFT_SCALE_INV_N  2 /* inverse result times 1/N */
+#define KEL_FFT_SCALE_SQRT_N 4 /* both directions times 1/sqrt(N) */
+#define KEL_FFT_SCALE_NONE   8 /* no scaling */
+typedef struct KelsFFTSpec_C_16sc KelsFFTSpec_C_16sc;
+typedef struct KelsFFTSpec_C_16s KelsFFTSpec_C_16s;
+typedef struct KelsFFTSpec_R_16s KelsFFTSpec_R_16s;
+typedef struct KelsFFTSpec_C_32fc KelsFFTSpec_C_32fc;
+typedef struct KelsFFTSpec_C_32f KelsFFTSpec_C_32f;
+typedef struct KelsFFTSpec_R_32f KelsFFTSpec_R_32f;
+typedef struct KelsFFTSpec_C_64fc KelsFFTSpec_C_64fc;
+typedef struct KelsFFTSpec_C_64f KelsFFTSpec_C_64f;
+typedef struct KelsFFTSpec_R_64f KelsFFTSpec_R_64f;
+typedef struct KelsFFTSpec_C_32sc KelsFFTSpec_C_32sc;
+typedef struct KelsFFTSpec_C_32s KelsFFTSpec_C_32s;
+typedef struct KelsFFTSpec_R_32s KelsFFTSpec_R_32s;
+typedef struct KelsFFTSpec_R_16s32s KelsFFTSpec_R_16s32s;
 
 /* @records-fir */
 /* FIR filter states. The four-character identifiers of the records are

@@ -1,0 +1,579 @@
+// SIMD passes of the FFT engine (see fft.h), compiled once per target by
+// Highway. The radix-4 stages vectorise across butterfly indices j, so a
+// stage runs at the widest vector whose complex lanes fit in a quarter of the
+// stage; shorter stages (the first one or two of each leaf) stay on the
+// scalar twin. The stepped scheme's column pass works on groups of four
+// columns that share every twiddle, so its stages vectorise across the four
+// columns with broadcast twiddles.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "kernels/fft.cpp"
+#include "hwy/foreach_target.h"  // IWYU pragma: keep
+#include "hwy/highway.h"
+
+#include "kernels/fft.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace kels::kernels {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+#if HWY_TARGET != HWY_SCALAR
+
+// Complex arithmetic on vectors of layout S. Interleaved vectors hold
+// (re, im) pairs; split "vectors" are a pair of re and im vectors.
+template <class D, int S, bool INV>
+struct CxOps;
+
+template <class D, bool INV>
+struct CxOps<D, 2, INV> {
+  using V = hn::Vec<D>;
+  using T = hn::TFromD<D>;
+  struct C {
+    V v;
+  };
+  D d;
+  V nj;  // multiplier turning Reverse2(a) into -i*a (forward) or +i*a
+  explicit CxOps(D dd)
+      : d(dd), nj(INV ? hn::OddEven(hn::Set(dd, T(1)), hn::Set(dd, T(-1)))
+                      : hn::OddEven(hn::Set(dd, T(-1)), hn::Set(dd, T(1)))) {}
+  static constexpr size_t kStride = 2;
+  C load(const T* re, const T*, size_t i) const { return {hn::LoadU(d, re + 2 * i)}; }
+  void store(T* re, T*, size_t i, C c) const { hn::StoreU(c.v, d, re + 2 * i); }
+  C add(C a, C b) const { return {hn::Add(a.v, b.v)}; }
+  C sub(C a, C b) const { return {hn::Sub(a.v, b.v)}; }
+  C rot(C a) const { return {hn::Mul(hn::Reverse2(d, a.v), nj)}; }
+  // a * w (a * conj(w) inverse) with per-lane twiddles w in the same layout.
+  C mul(C a, C w) const { return mul_b(a, hn::DupEven(w.v), hn::DupOdd(w.v)); }
+  // a * w with w given as broadcast real and imaginary parts.
+  C mul_b(C a, V wr, V wi) const {
+    return {hn::NegMulAdd(rot(a).v, wi, hn::Mul(a.v, wr))};
+  }
+  C scale(C a, V s) const { return {hn::Mul(a.v, s)}; }
+};
+
+template <class D, bool INV>
+struct CxOps<D, 1, INV> {
+  using V = hn::Vec<D>;
+  using T = hn::TFromD<D>;
+  struct C {
+    V r, i;
+  };
+  D d;
+  explicit CxOps(D dd) : d(dd) {}
+  static constexpr size_t kStride = 1;
+  C load(const T* re, const T* im, size_t i) const { return {hn::LoadU(d, re + i), hn::LoadU(d, im + i)}; }
+  void store(T* re, T* im, size_t i, C c) const {
+    hn::StoreU(c.r, d, re + i);
+    hn::StoreU(c.i, d, im + i);
+  }
+  C add(C a, C b) const { return {hn::Add(a.r, b.r), hn::Add(a.i, b.i)}; }
+  C sub(C a, C b) const { return {hn::Sub(a.r, b.r), hn::Sub(a.i, b.i)}; }
+  C rot(C a) const { return INV ? C{hn::Neg(a.i), a.r} : C{a.i, hn::Neg(a.r)}; }
+  C mul(C a, C w) const { return mul_b(a, w.r, w.i); }
+  C mul_b(C a, V wr, V wi) const {
+    if (INV) {
+      return {hn::MulAdd(a.i, wi, hn::Mul(a.r, wr)), hn::NegMulAdd(a.r, wi, hn::Mul(a.i, wr))};
+    }
+    return {hn::NegMulAdd(a.i, wi, hn::Mul(a.r, wr)), hn::MulAdd(a.r, wi, hn::Mul(a.i, wr))};
+  }
+  C scale(C a, V s) const { return {hn::Mul(a.r, s), hn::Mul(a.i, s)}; }
+};
+
+template <class O, class C>
+HWY_INLINE void Bfly4(const O& o, C& x0, C& x1, C& x2, C& x3) {
+  const C t0 = o.add(x0, x1), t1 = o.sub(x0, x1);
+  const C t2 = o.add(x2, x3), t3 = o.rot(o.sub(x2, x3));
+  x0 = o.add(t0, t2);
+  x2 = o.sub(t0, t2);
+  x1 = o.add(t1, t3);
+  x3 = o.sub(t1, t3);
+}
+
+template <int S, bool INV, class D, class T>
+void Radix4Rows(D d, T* HWY_RESTRICT re, T* HWY_RESTRICT im, size_t n, size_t L, const T* tw) {
+  const CxOps<D, S, INV> o(d);
+  const size_t q = L / 4;
+  const size_t step = hn::Lanes(d) / S;
+  const T* twi = scalar::block_im<T, S>(tw, 3 * q);
+  for (size_t b = 0; b < n; b += L) {
+    for (size_t j = 0; j < q; j += step) {
+      const size_t i = b + j;
+      auto x0 = o.load(re, im, i);
+      auto x1 = o.mul(o.load(re, im, i + q), o.load(tw, twi, q + j));
+      auto x2 = o.mul(o.load(re, im, i + 2 * q), o.load(tw, twi, j));
+      auto x3 = o.mul(o.load(re, im, i + 3 * q), o.load(tw, twi, 2 * q + j));
+      Bfly4(o, x0, x1, x2, x3);
+      o.store(re, im, i, x0);
+      o.store(re, im, i + q, x1);
+      o.store(re, im, i + 2 * q, x2);
+      o.store(re, im, i + 3 * q, x3);
+    }
+  }
+}
+
+// Stages L and 4L in one pass: sixteen vectors of butterfly index j (lanes
+// j..j+V-1) are loaded, the four radix-4 butterflies of stage L and the four
+// of stage 4L run in registers, and the sixteen are stored.
+template <int S, bool INV, class D, class T>
+void Radix4x2Rows(D d, T* HWY_RESTRICT re, T* HWY_RESTRICT im, size_t n, size_t L, const T* tw,
+                  const T* tw4) {
+  const CxOps<D, S, INV> o(d);
+  const size_t q = L / 4;
+  const size_t step = hn::Lanes(d) / S;
+  const T* twi = scalar::block_im<T, S>(tw, 3 * q);
+  const T* tw4i = scalar::block_im<T, S>(tw4, 3 * L);
+  using C = typename CxOps<D, S, INV>::C;
+  for (size_t b = 0; b < n; b += 4 * L) {
+    for (size_t j = 0; j < q; j += step) {
+      const size_t i = b + j;
+      C x[16];
+      const C w1 = o.load(tw, twi, q + j), w2 = o.load(tw, twi, j), w3 = o.load(tw, twi, 2 * q + j);
+      for (size_t g = 0; g < 4; ++g) {
+        C& a0 = x[4 * g];
+        C& a1 = x[4 * g + 1];
+        C& a2 = x[4 * g + 2];
+        C& a3 = x[4 * g + 3];
+        const size_t e = i + g * L;
+        a0 = o.load(re, im, e);
+        a1 = o.mul(o.load(re, im, e + q), w1);
+        a2 = o.mul(o.load(re, im, e + 2 * q), w2);
+        a3 = o.mul(o.load(re, im, e + 3 * q), w3);
+        Bfly4(o, a0, a1, a2, a3);
+      }
+      for (size_t g = 0; g < 4; ++g) {
+        const size_t jj = j + g * q;
+        C a0 = x[g];
+        C a1 = o.mul(x[g + 4], o.load(tw4, tw4i, L + jj));
+        C a2 = o.mul(x[g + 8], o.load(tw4, tw4i, jj));
+        C a3 = o.mul(x[g + 12], o.load(tw4, tw4i, 2 * L + jj));
+        Bfly4(o, a0, a1, a2, a3);
+        const size_t e = i + g * q;
+        o.store(re, im, e, a0);
+        o.store(re, im, e + L, a1);
+        o.store(re, im, e + 2 * L, a2);
+        o.store(re, im, e + 3 * L, a3);
+      }
+    }
+  }
+}
+
+template <class T, int S>
+struct VecPasses : scalar::Passes<T, S> {
+  using Base = scalar::Passes<T, S>;
+  // Group width in T units of one layout half: 8 interleaved values, or 4
+  // real and 4 imaginary values.
+  static constexpr size_t kGroup = S == 2 ? 8 : 4;
+  using DG = hn::CappedTag<T, kGroup>;
+
+  template <bool INV>
+  static void radix4_t(T* re, T* im, size_t n, size_t L, const T* tw) {
+    const size_t q = L / 4;
+    const hn::CappedTag<T, 32 / sizeof(T)> df;
+    const hn::CappedTag<T, 4> d4;
+    const hn::CappedTag<T, 2> d2;
+    if (q * S >= hn::Lanes(df)) {
+      Radix4Rows<S, INV>(df, re, im, n, L, tw);
+    } else if (q * S >= hn::Lanes(d4) && hn::Lanes(d4) >= size_t(S)) {
+      Radix4Rows<S, INV>(d4, re, im, n, L, tw);
+    } else if (q * S >= hn::Lanes(d2) && hn::Lanes(d2) >= size_t(S)) {
+      Radix4Rows<S, INV>(d2, re, im, n, L, tw);
+    } else {
+      Base::radix4_range(re, im, n, L, tw, INV, 0);
+    }
+  }
+  static void radix4(T* re, T* im, size_t n, size_t L, const T* tw, bool inv) {
+    if (inv) radix4_t<true>(re, im, n, L, tw);
+    else radix4_t<false>(re, im, n, L, tw);
+  }
+
+  template <bool INV>
+  static void radix4x2_t(T* re, T* im, size_t n, size_t L, const T* tw, const T* tw4) {
+    const size_t q = L / 4;
+    const hn::CappedTag<T, 32 / sizeof(T)> df;
+    const hn::CappedTag<T, 4> d4;
+    const hn::CappedTag<T, 2> d2;
+    if (q * S >= hn::Lanes(df)) {
+      Radix4x2Rows<S, INV>(df, re, im, n, L, tw, tw4);
+    } else if (q * S >= hn::Lanes(d4) && hn::Lanes(d4) >= size_t(S)) {
+      Radix4x2Rows<S, INV>(d4, re, im, n, L, tw, tw4);
+    } else if (q * S >= hn::Lanes(d2) && hn::Lanes(d2) >= size_t(S)) {
+      Radix4x2Rows<S, INV>(d2, re, im, n, L, tw, tw4);
+    } else {
+      Base::radix4x2(re, im, n, L, tw, tw4, INV);
+    }
+  }
+  static void radix4x2(T* re, T* im, size_t n, size_t L, const T* tw, const T* tw4, bool inv) {
+    if (inv) radix4x2_t<true>(re, im, n, L, tw, tw4);
+    else radix4x2_t<false>(re, im, n, L, tw, tw4);
+  }
+
+  // ---- First pass fused with the permutation (interleaved layout). Lane i
+  // of a vector belongs to output block rev(r + i); the blocks' elements are
+  // regrouped by 64-bit interleaves (one complex float per 64-bit unit) and
+  // stored 16 bytes at a time. Double precision uses one complex per vector.
+  template <class D, class V>
+  static void store_blocks(D d, T* dst, const size_t* m, V y0, V y1, V y2, V y3, bool four) {
+    if constexpr (sizeof(T) == 8) {
+      (void)d;
+      hn::StoreU(y0, d, dst + 2 * m[0]);
+      hn::StoreU(y1, d, dst + 2 * m[0] + 2);
+      if (four) {
+        hn::StoreU(y2, d, dst + 2 * m[0] + 4);
+        hn::StoreU(y3, d, dst + 2 * m[0] + 6);
+      }
+    } else {
+      const hn::Repartition<uint64_t, D> du;
+      const hn::Half<decltype(du)> dh;
+      auto* out = reinterpret_cast<uint64_t*>(dst);  // one unit per complex
+      const auto a0 = hn::BitCast(du, y0), a1 = hn::BitCast(du, y1);
+      const auto t0 = hn::InterleaveLower(du, a0, a1), t1 = hn::InterleaveUpper(du, a0, a1);
+      if (hn::Lanes(du) == 2) {
+        if (four) {
+          const auto a2 = hn::BitCast(du, y2), a3 = hn::BitCast(du, y3);
+          const auto t2 = hn::InterleaveLower(du, a2, a3), t3 = hn::InterleaveUpper(du, a2, a3);
+          hn::StoreU(t0, du, out + m[0]);
+          hn::StoreU(t2, du, out + m[0] + 2);
+          hn::StoreU(t1, du, out + m[1]);
+          hn::StoreU(t3, du, out + m[1] + 2);
+        } else {
+          hn::StoreU(t0, du, out + m[0]);
+          hn::StoreU(t1, du, out + m[1]);
+        }
+      } else {
+        // 256-bit: 128-bit halves hold lanes (0, 2) and (1, 3).
+        const auto t0l = hn::LowerHalf(t0), t0u = hn::UpperHalf(dh, t0);
+        const auto t1l = hn::LowerHalf(t1), t1u = hn::UpperHalf(dh, t1);
+        if (four) {
+          const auto a2 = hn::BitCast(du, y2), a3 = hn::BitCast(du, y3);
+          const auto t2 = hn::InterleaveLower(du, a2, a3), t3 = hn::InterleaveUpper(du, a2, a3);
+          hn::StoreU(t0l, dh, out + m[0]);
+          hn::StoreU(hn::LowerHalf(t2), dh, out + m[0] + 2);
+          hn::StoreU(t1l, dh, out + m[1]);
+          hn::StoreU(hn::LowerHalf(t3), dh, out + m[1] + 2);
+          hn::StoreU(t0u, dh, out + m[2]);
+          hn::StoreU(hn::UpperHalf(dh, t2), dh, out + m[2] + 2);
+          hn::StoreU(t1u, dh, out + m[3]);
+          hn::StoreU(hn::UpperHalf(dh, t3), dh, out + m[3] + 2);
+        } else {
+          hn::StoreU(t0l, dh, out + m[0]);
+          hn::StoreU(t1l, dh, out + m[1]);
+          hn::StoreU(t0u, dh, out + m[2]);
+          hn::StoreU(t1u, dh, out + m[3]);
+        }
+      }
+    }
+  }
+
+  // Tag of the fused first pass: 128 or 256 bits of complex floats, one
+  // complex double.
+  using DF = hn::CappedTag<T, sizeof(T) == 4 ? 8 : 2>;
+
+  template <bool INV>
+  static void first4_fused_t(const T* src, T* dst, size_t n, const scalar::BitRev& rev) {
+    const DF d;
+    const CxOps<DF, 2, INV> o(d);
+    const size_t V = hn::Lanes(d) / 2, q = n / 4;
+    size_t r = 0;
+    if (q >= V) {
+      for (; r < q; r += V) {
+        size_t m[4];
+        for (size_t i = 0; i < V; ++i) m[i] = rev(r + i);
+        auto x0 = o.load(src, nullptr, r), x1 = o.load(src, nullptr, r + 2 * q);
+        auto x2 = o.load(src, nullptr, r + q), x3 = o.load(src, nullptr, r + 3 * q);
+        Bfly4(o, x0, x1, x2, x3);
+        store_blocks(d, dst, m, x0.v, x1.v, x2.v, x3.v, true);
+      }
+    }
+    Base::first4_fused(src, src + 1, dst, dst + 1, n, rev, INV, r);
+  }
+  static void first4_fused(const T* sre, const T* sim, T* dre, T* dim, size_t n,
+                           const scalar::BitRev& rev, bool inv) {
+    if (S != 2) return Base::first4_fused(sre, sim, dre, dim, n, rev, inv);
+    if (inv) first4_fused_t<true>(sre, dre, n, rev);
+    else first4_fused_t<false>(sre, dre, n, rev);
+  }
+  static void first2_fused(const T* sre, const T* sim, T* dre, T* dim, size_t n,
+                           const scalar::BitRev& rev) {
+    if (S != 2) return Base::first2_fused(sre, sim, dre, dim, n, rev);
+    const DF d;
+    const CxOps<DF, 2, false> o(d);
+    const size_t V = hn::Lanes(d) / 2, h = n / 2;
+    size_t r = 0;
+    if (h >= V) {
+      for (; r < h; r += V) {
+        size_t m[4];
+        for (size_t i = 0; i < V; ++i) m[i] = rev(r + i);
+        const auto x0 = o.load(sre, nullptr, r), x1 = o.load(sre, nullptr, r + h);
+        const auto y0 = o.add(x0, x1), y1 = o.sub(x0, x1);
+        store_blocks(d, dre, m, y0.v, y1.v, y1.v, y1.v, false);
+      }
+    }
+    Base::first2_fused(sre, sim, dre, dim, n, rev, r);
+  }
+
+  // Twiddles tab[S * stride * q] for the lanes q.. of a vector (stride 1 or
+  // 2; the two-level scheme's inner combine reads every other entry).
+  template <class D, class O>
+  static auto load_tw(D d, const O& o, const T* tab, const T* tabi, size_t q, size_t stride) {
+    if (stride == 1 || (S == 2 && hn::Lanes(d) == 2)) return o.load(tab, tabi, q * stride);
+    using C = typename O::C;
+    if constexpr (S == 2) {
+      const hn::Repartition<uint64_t, D> du;
+      const auto* t = reinterpret_cast<const uint64_t*>(tab) + 2 * q;
+      return C{hn::BitCast(d, hn::ConcatEven(du, hn::LoadU(du, t + hn::Lanes(du)), hn::LoadU(du, t)))};
+    } else {
+      const size_t NL = hn::Lanes(d);
+      return C{hn::ConcatEven(d, hn::LoadU(d, tab + 2 * q + NL), hn::LoadU(d, tab + 2 * q)),
+               hn::ConcatEven(d, hn::LoadU(d, tabi + 2 * q + NL), hn::LoadU(d, tabi + 2 * q))};
+    }
+  }
+
+  // Double-precision interleaved data run one complex per 128-bit vector
+  // here, which makes any stride a plain load.
+  using DC = hn::CappedTag<T, sizeof(T) == 8 && S == 2 ? 2 : 32 / sizeof(T)>;
+
+  template <bool INV>
+  static void combine2_t(T* re, T* im, size_t h, const T* tab, size_t c, size_t stride) {
+    const DC d;
+    const CxOps<DC, S, INV> o(d);
+    const size_t step = hn::Lanes(d) / S;
+    const T* tabi = scalar::block_im<T, S>(tab, c);
+    for (size_t q = 0; q < h; q += step) {
+      const auto e = o.load(re, im, q);
+      const auto od = o.mul(o.load(re, im, q + h), load_tw(d, o, tab, tabi, q, stride));
+      o.store(re, im, q, o.add(e, od));
+      o.store(re, im, q + h, o.sub(e, od));
+    }
+  }
+  static void combine2(T* re, T* im, size_t h, const T* tab, size_t c, size_t stride, bool inv) {
+    const DC d;
+    if (stride > 2 || h * S < 2 * hn::Lanes(d)) {
+      Base::combine2(re, im, h, tab, c, stride, inv);
+    } else if (inv) {
+      combine2_t<true>(re, im, h, tab, c, stride);
+    } else {
+      combine2_t<false>(re, im, h, tab, c, stride);
+    }
+  }
+
+  static void scale(T* re, T* im, size_t n, T s) {
+    const hn::ScalableTag<T> d;
+    const size_t NL = hn::Lanes(d);
+    const auto vs = hn::Set(d, s);
+    auto run = [&](T* p, size_t m) {
+      size_t i = 0;
+      for (; i + NL <= m; i += NL) hn::StoreU(hn::Mul(hn::LoadU(d, p + i), vs), d, p + i);
+      for (; i < m; ++i) p[i] *= s;
+    };
+    if (S == 2) {
+      run(re, 2 * n);
+    } else {
+      run(re, n);
+      run(im, n);
+    }
+  }
+
+  // ---- Column pass: group b of the work buffer at work + 8b.
+  // Row pointers of the four columns q0..q0+3 in row b, as a "group" in the
+  // data's own layout.
+  template <bool INV>
+  static void gather_t(const T* re, const T* im, size_t M, size_t K, size_t g, const T* merge,
+                       T* work) {
+    const DG d;
+    const CxOps<DG, S, INV> o(d);
+    const size_t NL = hn::Lanes(d);
+    for (size_t b = 0; b < K; ++b) {
+      const size_t e = 4 * g + M * b;  // first element of the row's group
+      const T* tw = merge + 8 * (g * K + b);
+      T* w = work + 8 * b;
+      for (size_t off = 0; off < kGroup; off += NL) {
+        typename CxOps<DG, S, INV>::C x, t;
+        if (S == 2) {
+          x = o.load(re + 2 * e + off, nullptr, 0);
+          t = o.load(tw + off, nullptr, 0);
+          o.store(w + off, nullptr, 0, o.mul(x, t));
+        } else {
+          x = o.load(re + e + off, im + e + off, 0);
+          t = o.load(tw + off, tw + 4 + off, 0);
+          o.store(w + off, w + 4 + off, 0, o.mul(x, t));
+        }
+      }
+    }
+  }
+  static void gather(const T* re, const T* im, size_t M, size_t K, size_t g, const T* merge,
+                     T* work, bool inv) {
+    if (inv) gather_t<true>(re, im, M, K, g, merge, work);
+    else gather_t<false>(re, im, M, K, g, merge, work);
+  }
+  static void scatter(T* re, T* im, size_t M, size_t K, size_t g, T* work) {
+    const DG d;
+    const size_t NL = hn::Lanes(d);
+    for (size_t b = 0; b < K; ++b) {
+      const size_t e = 4 * g + M * b;
+      const T* w = work + 8 * b;
+      for (size_t off = 0; off < kGroup; off += NL) {
+        if (S == 2) {
+          hn::StoreU(hn::LoadU(d, w + off), d, re + 2 * e + off);
+        } else {
+          hn::StoreU(hn::LoadU(d, w + off), d, re + e + off);
+          hn::StoreU(hn::LoadU(d, w + 4 + off), d, im + e + off);
+        }
+      }
+    }
+  }
+
+  // Loads/stores of the part `off` of group b.
+  template <class O>
+  static auto gl(const O& o, T* w, size_t b, size_t off) {
+    return S == 2 ? o.load(w + 8 * b + off, nullptr, 0) : o.load(w + 8 * b + off, w + 8 * b + 4 + off, 0);
+  }
+  template <class O, class C>
+  static void gs(const O& o, T* w, size_t b, size_t off, C c) {
+    if (S == 2) o.store(w + 8 * b + off, nullptr, 0, c);
+    else o.store(w + 8 * b + off, w + 8 * b + 4 + off, 0, c);
+  }
+
+  static void col_radix2(T* w, size_t K) {
+    const DG d;
+    const CxOps<DG, S, false> o(d);
+    for (size_t b = 0; b < K; b += 2)
+      for (size_t off = 0; off < kGroup; off += hn::Lanes(d)) {
+        const auto x = gl(o, w, b, off), y = gl(o, w, b + 1, off);
+        gs(o, w, b, off, o.add(x, y));
+        gs(o, w, b + 1, off, o.sub(x, y));
+      }
+  }
+  template <bool INV>
+  static void col_radix4_first_t(T* w, size_t K) {
+    const DG d;
+    const CxOps<DG, S, INV> o(d);
+    for (size_t b = 0; b < K; b += 4)
+      for (size_t off = 0; off < kGroup; off += hn::Lanes(d)) {
+        auto x0 = gl(o, w, b, off), x1 = gl(o, w, b + 1, off);
+        auto x2 = gl(o, w, b + 2, off), x3 = gl(o, w, b + 3, off);
+        Bfly4(o, x0, x1, x2, x3);
+        gs(o, w, b, off, x0);
+        gs(o, w, b + 1, off, x1);
+        gs(o, w, b + 2, off, x2);
+        gs(o, w, b + 3, off, x3);
+      }
+  }
+  static void col_radix4_first(T* w, size_t K, bool inv) {
+    if (inv) col_radix4_first_t<true>(w, K);
+    else col_radix4_first_t<false>(w, K);
+  }
+  template <bool INV>
+  static void col_radix4_t(T* w, size_t K, size_t L, const T* tw) {
+    const DG d;
+    const CxOps<DG, S, INV> o(d);
+    const size_t q = L / 4;
+    const T* twi = scalar::block_im<T, S>(tw, 3 * q);
+    for (size_t b0 = 0; b0 < K; b0 += L)
+      for (size_t j = 0; j < q; ++j) {
+        const auto w1r = hn::Set(d, tw[S * (q + j)]), w1i = hn::Set(d, twi[S * (q + j)]);
+        const auto w2r = hn::Set(d, tw[S * j]), w2i = hn::Set(d, twi[S * j]);
+        const auto w3r = hn::Set(d, tw[S * (2 * q + j)]), w3i = hn::Set(d, twi[S * (2 * q + j)]);
+        const size_t b = b0 + j;
+        for (size_t off = 0; off < kGroup; off += hn::Lanes(d)) {
+          auto x0 = gl(o, w, b, off);
+          auto x1 = o.mul_b(gl(o, w, b + q, off), w1r, w1i);
+          auto x2 = o.mul_b(gl(o, w, b + 2 * q, off), w2r, w2i);
+          auto x3 = o.mul_b(gl(o, w, b + 3 * q, off), w3r, w3i);
+          Bfly4(o, x0, x1, x2, x3);
+          gs(o, w, b, off, x0);
+          gs(o, w, b + q, off, x1);
+          gs(o, w, b + 2 * q, off, x2);
+          gs(o, w, b + 3 * q, off, x3);
+        }
+      }
+  }
+  static void col_radix4(T* w, size_t K, size_t L, const T* tw, bool inv) {
+    if (inv) col_radix4_t<true>(w, K, L, tw);
+    else col_radix4_t<false>(w, K, L, tw);
+  }
+};
+
+template <class T, int S>
+void Run(const FftPlan<T>& p, const FftArgs<T>& a) {
+  scalar::Engine<T, S, VecPasses<T, S>>{p, a}.run();
+}
+
+// d = a * b (or a * conj(b)) for `pairs` interleaved complex values; d may
+// equal a or b.
+template <bool CONJ, class T>
+void MulPairsT(const T* a, const T* b, T* d, size_t pairs) {
+  const hn::ScalableTag<T> dt;
+  const CxOps<decltype(dt), 2, CONJ> o(dt);
+  const size_t step = hn::Lanes(dt) / 2;
+  size_t i = 0;
+  if (step >= 1) {
+    for (; i + step <= pairs; i += step) o.store(d, nullptr, i, o.mul(o.load(a, nullptr, i), o.load(b, nullptr, i)));
+  }
+  for (; i < pairs; ++i) {
+    const scalar::Cx<T> v = scalar::mul(scalar::Cx<T>{a[2 * i], a[2 * i + 1]}, scalar::Cx<T>{b[2 * i], b[2 * i + 1]}, CONJ);
+    d[2 * i] = v.r;
+    d[2 * i + 1] = v.i;
+  }
+}
+
+#else  // HWY_SCALAR: the portable twin
+
+template <bool CONJ, class T>
+void MulPairsT(const T* a, const T* b, T* d, size_t pairs) {
+  scalar::mul_pairs(a, b, d, pairs, CONJ);
+}
+
+
+template <class T, int S>
+void Run(const FftPlan<T>& p, const FftArgs<T>& a) {
+  scalar::fft<T, S>(p, a);
+}
+
+#endif
+
+void MulPairsF32(const float* a, const float* b, float* d, size_t n, bool conj) {
+  if (conj) MulPairsT<true>(a, b, d, n);
+  else MulPairsT<false>(a, b, d, n);
+}
+void MulPairsF64(const double* a, const double* b, double* d, size_t n, bool conj) {
+  if (conj) MulPairsT<true>(a, b, d, n);
+  else MulPairsT<false>(a, b, d, n);
+}
+
+void FftInterleavedF32(const FftPlan<float>& p, const FftArgs<float>& a) { Run<float, 2>(p, a); }
+void FftInterleavedF64(const FftPlan<double>& p, const FftArgs<double>& a) { Run<double, 2>(p, a); }
+void FftSplitF32(const FftPlan<float>& p, const FftArgs<float>& a) { Run<float, 1>(p, a); }
+void FftSplitF64(const FftPlan<double>& p, const FftArgs<double>& a) { Run<double, 1>(p, a); }
+
+}  // namespace HWY_NAMESPACE
+}  // namespace kels::kernels
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace kels::kernels {
+
+HWY_EXPORT(FftInterleavedF32);
+HWY_EXPORT(FftInterleavedF64);
+HWY_EXPORT(FftSplitF32);
+HWY_EXPORT(FftSplitF64);
+HWY_EXPORT(MulPairsF32);
+HWY_EXPORT(MulPairsF64);
+
+void mul_pairs(const float* a, const float* b, float* d, std::size_t n, bool conj) {
+  HWY_DYNAMIC_DISPATCH(MulPairsF32)(a, b, d, n, conj);
+}
+void mul_pairs(const double* a, const double* b, double* d, std::size_t n, bool conj) {
+  HWY_DYNAMIC_DISPATCH(MulPairsF64)(a, b, d, n, conj);
+}
+
+void fft_interleaved(const FftPlan<float>& p, const FftArgs<float>& a) {
+  HWY_DYNAMIC_DISPATCH(FftInterleavedF32)(p, a);
+}
+void fft_interleaved(const FftPlan<double>& p, const FftArgs<double>& a) {
+  HWY_DYNAMIC_DISPATCH(FftInterleavedF64)(p, a);
+}
+void fft_split(const FftPlan<float>& p, const FftArgs<float>& a) { HWY_DYNAMIC_DISPATCH(FftSplitF32)(p, a); }
+void fft_split(const FftPlan<double>& p, const FftArgs<double>& a) { HWY_DYNAMIC_DISPATCH(FftSplitF64)(p, a); }
+
+}  // namespace kels::kernels
+#endif  // HWY_ONCE

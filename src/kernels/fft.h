@@ -1,0 +1,514 @@
+// Power-of-two complex FFT engine: bit-reversal permutation, radix-4
+// decimation-in-time stages, and the two large-order schemes (two-level
+// halving with a radix-2 combine, and the stepped row/column scheme).
+//
+// The engine is one template over the element type T and the data layout S
+// (S = 2: interleaved re,im pairs; S = 1: separate re and im arrays; element
+// i lives at re[S*i], im[S*i] either way). A pass policy P supplies the inner
+// loops: scalar::Passes below is the portable twin that every SIMD target is
+// tested against, and the SIMD kernels (fft.cpp) override the passes they
+// vectorise.
+//
+// Table layouts (shared by the record builder and the passes). Every table
+// is a sequence of complex values; "block of c entries" means
+//   interleaved (S = 2): re0, im0, re1, im1, ...
+//   split (S = 1):       re0 .. re(c-1), im0 .. im(c-1)
+// - first-level table of order n: for each radix-4 stage of length L >= 8
+//   (L = 8, 32, ... for odd n; 16, 64, ... for even n), one block of
+//   3L/4 entries: w^j (j < L/4), then w^(2j), then w^(3j), w = e^(-2 pi i/L);
+//   the blocks follow each other in stage order (total < 2^n entries);
+// - second-level table of the two-level scheme of order m: one block of 2^(m-1)
+//   entries e^(-2 pi i q/2^m);
+// - merge table of a stepped level (order n, K = 2^k columns per row group):
+//   for each group of four columns q0 = 4g and each row b < K, one block of 4
+//   entries e^(-2 pi i rev_k(b) (q0 + c) / 2^n), c = 0..3, blocks in (g, b)
+//   order (2^n entries);
+// - column table of a stepped level: the first-level table of order k.
+#ifndef KELS_KERNELS_FFT_H
+#define KELS_KERNELS_FFT_H
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace kels::kernels {
+
+template <class T>
+struct FftStep {
+  int order = 0;          // log2 of the length this level transforms
+  int k = 0;              // log2 of the column (outer) length
+  const T* col = nullptr;    // first-level table of order k
+  const T* merge = nullptr;  // merge table of order `order`
+};
+
+// Everything a transform needs, resolved from a record.
+template <class T>
+struct FftPlan {
+  int order = 0;
+  int leaf = 0;                // order of the first-level table
+  const T* first = nullptr;
+  int two_level = 0;           // top order of the two-level part, 0 = none
+  const T* second = nullptr;
+  int levels = 0;              // stepped levels, outermost first
+  FftStep<T> step[3];
+  const std::uint32_t* rev = nullptr;  // bit reversal of ceil(order/2) bits
+};
+
+template <class T>
+struct FftArgs {
+  const T* src_re;
+  const T* src_im;  // interleaved: src_re + 1
+  T* dst_re;
+  T* dst_im;        // interleaved: dst_re + 1
+  T* work;          // 16-byte aligned, or null when the plan needs none
+  bool inverse;
+  bool scaled;
+  T scale;
+};
+
+// Dispatched entry points (fft.cpp).
+void fft_interleaved(const FftPlan<float>& p, const FftArgs<float>& a);
+void fft_interleaved(const FftPlan<double>& p, const FftArgs<double>& a);
+void fft_split(const FftPlan<float>& p, const FftArgs<float>& a);
+void fft_split(const FftPlan<double>& p, const FftArgs<double>& a);
+
+// d[i] = a[i] * b[i] (a[i] * conj(b[i]) when conj) for n interleaved complex
+// values; d may equal a or b. Used by the packed-spectrum products.
+void mul_pairs(const float* a, const float* b, float* d, std::size_t n, bool conj);
+void mul_pairs(const double* a, const double* b, double* d, std::size_t n, bool conj);
+
+// Offset (in T units) of the stage block of length L inside a first-level
+// table: the sum of 2 * 3L'/4 over the earlier stages L' >= 8.
+inline std::size_t stage_offset(int n, std::size_t L) {
+  std::size_t off = 0;
+  for (std::size_t s = (n & 1) ? 8 : 16; s < L; s *= 4) off += 2 * (3 * s / 4);
+  return off;
+}
+
+namespace scalar {
+
+template <class T>
+struct Cx {
+  T r, i;
+};
+template <class T>
+inline Cx<T> add(Cx<T> a, Cx<T> b) { return {a.r + b.r, a.i + b.i}; }
+template <class T>
+inline Cx<T> sub(Cx<T> a, Cx<T> b) { return {a.r - b.r, a.i - b.i}; }
+// a * w, or a * conj(w) for the inverse direction.
+template <class T>
+inline Cx<T> mul(Cx<T> a, Cx<T> w, bool inv) {
+  const T wi = inv ? -w.i : w.i;
+  return {a.r * w.r - a.i * wi, a.i * w.r + a.r * wi};
+}
+// -i * a (forward) or +i * a (inverse).
+template <class T>
+inline Cx<T> rot(Cx<T> a, bool inv) {
+  return inv ? Cx<T>{-a.i, a.r} : Cx<T>{a.i, -a.r};
+}
+
+// Element i of a complex sequence with layout S whose imaginary parts start
+// at im (interleaved: re + 1).
+template <class T, int S>
+inline Cx<T> ld(const T* re, const T* im, std::size_t i) { return {re[S * i], im[S * i]}; }
+template <class T, int S>
+inline void st(T* re, T* im, std::size_t i, Cx<T> v) {
+  re[S * i] = v.r;
+  im[S * i] = v.i;
+}
+
+// Imaginary-part pointer of a table block of c entries.
+template <class T, int S>
+inline const T* block_im(const T* blk, std::size_t c) { return S == 2 ? blk + 1 : blk + c; }
+
+// Work-buffer column groups: group b holds the four columns' elements of
+// row b at work + 8b, in the same 4-entry block layout as the merge table.
+template <class T, int S>
+inline T* grp_re(T* w, std::size_t b, int c) { return w + 8 * b + (S == 2 ? 2 * c : c); }
+template <class T, int S>
+inline std::size_t grp_im_off() { return S == 2 ? 1 : 4; }
+
+template <class T>
+void mul_pairs(const T* a, const T* b, T* d, std::size_t n, bool conj) {
+  for (std::size_t i = 0; i < n; ++i) {
+    const Cx<T> v = mul(Cx<T>{a[2 * i], a[2 * i + 1]}, Cx<T>{b[2 * i], b[2 * i + 1]}, conj);
+    d[2 * i] = v.r;
+    d[2 * i + 1] = v.i;
+  }
+}
+
+// Bit reversal of `order` bits through the half table of ceil(order/2) bits.
+struct BitRev {
+  const std::uint32_t* tab;
+  int lo_bits, hi_bits;  // lo_bits = floor(order/2), hi_bits = ceil(order/2)
+  BitRev(const std::uint32_t* t, int order) : tab(t), lo_bits(order / 2), hi_bits(order - order / 2) {}
+  std::uint32_t lo(std::size_t x) const { return lo_bits == hi_bits ? tab[x] : tab[x] >> 1; }
+  std::size_t operator()(std::size_t p) const {
+    const std::size_t l = p & ((std::size_t(1) << lo_bits) - 1), h = p >> lo_bits;
+    return (std::size_t(lo(l)) << hi_bits) | tab[h];
+  }
+};
+
+template <class T, int S>
+struct Passes {
+  // Radix-2 pass on adjacent pairs of n elements (first pass of odd orders).
+  static void radix2(T* re, T* im, std::size_t n) {
+    for (std::size_t i = 0; i < n; i += 2) {
+      const Cx<T> a = ld<T, S>(re, im, i), b = ld<T, S>(re, im, i + 1);
+      st<T, S>(re, im, i, add(a, b));
+      st<T, S>(re, im, i + 1, sub(a, b));
+    }
+  }
+
+  // 4-point butterflies of the elements a0..a3 (already twiddled), in the
+  // quarter order of a bit-reversed block: positions 0, 1, 2, 3 hold the
+  // sub-transforms of residues 0, 2, 1, 3.
+  static void bfly4(Cx<T>& x0, Cx<T>& x1, Cx<T>& x2, Cx<T>& x3, bool inv) {
+    // x0 = F0, x1 = W^2j F2, x2 = W^j F1, x3 = W^3j F3
+    const Cx<T> t0 = add(x0, x1), t1 = sub(x0, x1);
+    const Cx<T> t2 = add(x2, x3), t3 = rot(sub(x2, x3), inv);
+    x0 = add(t0, t2);
+    x2 = sub(t0, t2);
+    x1 = add(t1, t3);
+    x3 = sub(t1, t3);
+  }
+
+  // First radix-4 pass of even orders: 4-point transforms, no twiddles.
+  static void radix4_first(T* re, T* im, std::size_t n, bool inv) {
+    for (std::size_t i = 0; i < n; i += 4) {
+      Cx<T> x0 = ld<T, S>(re, im, i), x1 = ld<T, S>(re, im, i + 1);
+      Cx<T> x2 = ld<T, S>(re, im, i + 2), x3 = ld<T, S>(re, im, i + 3);
+      bfly4(x0, x1, x2, x3, inv);
+      st<T, S>(re, im, i, x0);
+      st<T, S>(re, im, i + 1, x1);
+      st<T, S>(re, im, i + 2, x2);
+      st<T, S>(re, im, i + 3, x3);
+    }
+  }
+
+  // The first pass fused with the bit-reversal permutation: output block m
+  // (4 elements) holds the 4-point transform of src[r + {0, N/2, N/4, 3N/4}],
+  // r = rev(4m) / 4; iterated over r so the reads run sequentially.
+  static void first4_fused(const T* sre, const T* sim, T* dre, T* dim, std::size_t n,
+                           const BitRev& rev, bool inv, std::size_t r0 = 0) {
+    const std::size_t q = n / 4;
+    for (std::size_t r = r0; r < q; ++r) {
+      const std::size_t m4 = rev(r);
+      Cx<T> x0 = ld<T, S>(sre, sim, r), x1 = ld<T, S>(sre, sim, r + 2 * q);
+      Cx<T> x2 = ld<T, S>(sre, sim, r + q), x3 = ld<T, S>(sre, sim, r + 3 * q);
+      bfly4(x0, x1, x2, x3, inv);
+      st<T, S>(dre, dim, m4, x0);
+      st<T, S>(dre, dim, m4 + 1, x1);
+      st<T, S>(dre, dim, m4 + 2, x2);
+      st<T, S>(dre, dim, m4 + 3, x3);
+    }
+  }
+  // Same for the radix-2 first pass of odd orders: block 2m = rev(r).
+  static void first2_fused(const T* sre, const T* sim, T* dre, T* dim, std::size_t n,
+                           const BitRev& rev, std::size_t r0 = 0) {
+    const std::size_t h = n / 2;
+    for (std::size_t r = r0; r < h; ++r) {
+      const std::size_t m2 = rev(r);
+      const Cx<T> a = ld<T, S>(sre, sim, r), b = ld<T, S>(sre, sim, r + h);
+      st<T, S>(dre, dim, m2, add(a, b));
+      st<T, S>(dre, dim, m2 + 1, sub(a, b));
+    }
+  }
+
+  // One radix-4 stage of length L (>= 8) over n elements, twiddles from the
+  // stage block tw (3L/4 entries), for butterfly indices j0 <= j < q.
+  static void radix4_range(T* re, T* im, std::size_t n, std::size_t L, const T* tw, bool inv,
+                           std::size_t j0) {
+    const std::size_t q = L / 4;
+    const T* twi = block_im<T, S>(tw, 3 * q);
+    for (std::size_t b = 0; b < n; b += L) {
+      for (std::size_t j = j0; j < q; ++j) {
+        const std::size_t i = b + j;
+        Cx<T> x0 = ld<T, S>(re, im, i);
+        Cx<T> x1 = mul(ld<T, S>(re, im, i + q), ld<T, S>(tw, twi, q + j), inv);
+        Cx<T> x2 = mul(ld<T, S>(re, im, i + 2 * q), ld<T, S>(tw, twi, j), inv);
+        Cx<T> x3 = mul(ld<T, S>(re, im, i + 3 * q), ld<T, S>(tw, twi, 2 * q + j), inv);
+        bfly4(x0, x1, x2, x3, inv);
+        st<T, S>(re, im, i, x0);
+        st<T, S>(re, im, i + q, x1);
+        st<T, S>(re, im, i + 2 * q, x2);
+        st<T, S>(re, im, i + 3 * q, x3);
+      }
+    }
+  }
+  static void radix4(T* re, T* im, std::size_t n, std::size_t L, const T* tw, bool inv) {
+    radix4_range(re, im, n, L, tw, inv, 0);
+  }
+  // Two consecutive stages L and 4L (tables tw and tw4).
+  static void radix4x2(T* re, T* im, std::size_t n, std::size_t L, const T* tw, const T* tw4,
+                       bool inv) {
+    radix4_range(re, im, n, L, tw, inv, 0);
+    radix4_range(re, im, n, 4 * L, tw4, inv, 0);
+  }
+
+  // Radix-2 combine of two transformed halves of h elements each with the
+  // twiddles tab[q * stride] of a second-level block of c entries.
+  static void combine2(T* re, T* im, std::size_t h, const T* tab, std::size_t c,
+                       std::size_t stride, bool inv) {
+    const T* tabi = block_im<T, S>(tab, c);
+    for (std::size_t q = 0; q < h; ++q) {
+      const Cx<T> e = ld<T, S>(re, im, q);
+      const Cx<T> o = mul(ld<T, S>(re, im, q + h), ld<T, S>(tab, tabi, q * stride), inv);
+      st<T, S>(re, im, q, add(e, o));
+      st<T, S>(re, im, q + h, sub(e, o));
+    }
+  }
+
+  static void scale(T* re, T* im, std::size_t n, T s) {
+    if (S == 2) {
+      for (std::size_t i = 0; i < 2 * n; ++i) re[i] *= s;
+    } else {
+      for (std::size_t i = 0; i < n; ++i) re[i] *= s;
+      for (std::size_t i = 0; i < n; ++i) im[i] *= s;
+    }
+  }
+
+  // Column pass pieces of the stepped scheme. Rows of M elements; the four
+  // columns q0..q0+3 (q0 = 4g) are gathered into work groups 0..K-1, each
+  // element multiplied by its merge twiddle.
+  static void gather(const T* re, const T* im, std::size_t M, std::size_t K, std::size_t g,
+                     const T* merge, T* work, bool inv) {
+    for (std::size_t b = 0; b < K; ++b) {
+      const T* tw = merge + 8 * (g * K + b);
+      const T* twi = block_im<T, S>(tw, 4);
+      for (int c = 0; c < 4; ++c) {
+        const Cx<T> v = mul(ld<T, S>(re, im, 4 * g + c + M * b), ld<T, S>(tw, twi, c), inv);
+        T* w = grp_re<T, S>(work, b, c);
+        w[0] = v.r;
+        w[grp_im_off<T, S>()] = v.i;
+      }
+    }
+  }
+  static void scatter(T* re, T* im, std::size_t M, std::size_t K, std::size_t g, T* work) {
+    for (std::size_t b = 0; b < K; ++b) {
+      for (int c = 0; c < 4; ++c) {
+        const T* w = grp_re<T, S>(work, b, c);
+        st<T, S>(re, im, 4 * g + c + M * b, Cx<T>{w[0], w[grp_im_off<T, S>()]});
+      }
+    }
+  }
+  // The same passes as above applied to the K groups of the work buffer (four
+  // independent columns sharing every twiddle).
+  static Cx<T> gld(T* w, std::size_t b, int c) {
+    const T* p = grp_re<T, S>(w, b, c);
+    return {p[0], p[grp_im_off<T, S>()]};
+  }
+  static void gst(T* w, std::size_t b, int c, Cx<T> v) {
+    T* p = grp_re<T, S>(w, b, c);
+    p[0] = v.r;
+    p[grp_im_off<T, S>()] = v.i;
+  }
+  static void col_radix2(T* w, std::size_t K) {
+    for (std::size_t b = 0; b < K; b += 2)
+      for (int c = 0; c < 4; ++c) {
+        const Cx<T> a = gld(w, b, c), d = gld(w, b + 1, c);
+        gst(w, b, c, add(a, d));
+        gst(w, b + 1, c, sub(a, d));
+      }
+  }
+  static void col_radix4_first(T* w, std::size_t K, bool inv) {
+    for (std::size_t b = 0; b < K; b += 4)
+      for (int c = 0; c < 4; ++c) {
+        Cx<T> x0 = gld(w, b, c), x1 = gld(w, b + 1, c), x2 = gld(w, b + 2, c), x3 = gld(w, b + 3, c);
+        bfly4(x0, x1, x2, x3, inv);
+        gst(w, b, c, x0);
+        gst(w, b + 1, c, x1);
+        gst(w, b + 2, c, x2);
+        gst(w, b + 3, c, x3);
+      }
+  }
+  static void col_radix4(T* w, std::size_t K, std::size_t L, const T* tw, bool inv) {
+    const std::size_t q = L / 4;
+    const T* twi = block_im<T, S>(tw, 3 * q);
+    for (std::size_t b0 = 0; b0 < K; b0 += L)
+      for (std::size_t j = 0; j < q; ++j) {
+        const Cx<T> w1 = ld<T, S>(tw, twi, q + j), w2 = ld<T, S>(tw, twi, j);
+        const Cx<T> w3 = ld<T, S>(tw, twi, 2 * q + j);
+        const std::size_t b = b0 + j;
+        for (int c = 0; c < 4; ++c) {
+          Cx<T> x0 = gld(w, b, c);
+          Cx<T> x1 = mul(gld(w, b + q, c), w1, inv);
+          Cx<T> x2 = mul(gld(w, b + 2 * q, c), w2, inv);
+          Cx<T> x3 = mul(gld(w, b + 3 * q, c), w3, inv);
+          bfly4(x0, x1, x2, x3, inv);
+          gst(w, b, c, x0);
+          gst(w, b + q, c, x1);
+          gst(w, b + 2 * q, c, x2);
+          gst(w, b + 3 * q, c, x3);
+        }
+      }
+  }
+};
+
+inline std::size_t reverse_small(std::size_t x, int bits) {
+  std::size_t r = 0;
+  for (int i = 0; i < bits; ++i) r |= ((x >> i) & 1u) << (bits - 1 - i);
+  return r;
+}
+
+// dst[p] = src[rev(p)] for elements of type E, in place when src == dst.
+// The index is split as (a, mid, b) with t-bit a and b, so that
+// rev(a, mid, b) = (rev b, rev mid, rev a): the tile of all (a, b) for one
+// mid and the tile for rev(mid) are read into two small buffers and written
+// back exchanged, touching 2^t-element runs instead of single elements.
+template <class E>
+void permute(const E* src, E* dst, int order) {
+  const int t = order >= 8 ? 4 : order / 2;
+  const int mb = order - 2 * t;
+  const std::size_t T = std::size_t(1) << t, nmid = std::size_t(1) << mb;
+  std::size_t rt[16];
+  for (std::size_t i = 0; i < T; ++i) rt[i] = reverse_small(i, t);
+  E b1[256], b2[256];
+  auto load = [&](E* buf, std::size_t mid) {
+    for (std::size_t a = 0; a < T; ++a)
+      std::memcpy(buf + a * T, src + ((a << (mb + t)) | (mid << t)), T * sizeof(E));
+  };
+  // Row a of the target tile: dst(a, mid, b) = old(rev b, rmid, rev a).
+  auto store = [&](const E* buf, std::size_t mid) {
+    for (std::size_t a = 0; a < T; ++a) {
+      E* d = dst + ((a << (mb + t)) | (mid << t));
+      const std::size_t ra = rt[a];
+      for (std::size_t b = 0; b < T; ++b) std::memcpy(d + b, buf + rt[b] * T + ra, sizeof(E));
+    }
+  };
+  for (std::size_t mid = 0; mid < nmid; ++mid) {
+    const std::size_t rmid = reverse_small(mid, mb);
+    if (rmid < mid) continue;
+    load(b1, mid);
+    if (rmid == mid) {
+      store(b1, mid);
+    } else {
+      load(b2, rmid);
+      store(b2, mid);
+      store(b1, rmid);
+    }
+  }
+}
+
+template <class T>
+struct Pair {
+  T a, b;
+};
+
+// The transform driver, written once over layout and pass policy.
+template <class T, int S, class P>
+struct Engine {
+  const FftPlan<T>& p;
+  const FftArgs<T>& a;
+
+  void run() {
+    const std::size_t n = std::size_t(1) << p.order;
+    const T* sr = a.src_re;
+    const T* si = a.src_im;
+    // Orders up to the leaf size copy an in-place input to the work buffer
+    // first, so the permutation can be fused with the first pass.
+    const bool small = p.order <= p.leaf && a.work != nullptr;
+    if (small && S == 2 && sr == a.dst_re) {
+      std::memcpy(a.work, sr, 2 * n * sizeof(T));
+      sr = a.work;
+      si = a.work + 1;
+    } else if (small && S == 1) {
+      if (sr == a.dst_re) {
+        std::memcpy(a.work, sr, n * sizeof(T));
+        sr = a.work;
+      }
+      if (si == a.dst_im) {
+        std::memcpy(a.work + n, si, n * sizeof(T));
+        si = a.work + n;
+      }
+    }
+    const BitRev rev(p.rev, p.order);
+    if (sr != a.dst_re && si != a.dst_im) {
+      if (p.leaf & 1) P::first2_fused(sr, si, a.dst_re, a.dst_im, n, rev);
+      else P::first4_fused(sr, si, a.dst_re, a.dst_im, n, rev, a.inverse);
+    } else {
+      if (S == 2) {
+        permute(reinterpret_cast<const Pair<T>*>(sr), reinterpret_cast<Pair<T>*>(a.dst_re), p.order);
+      } else {
+        permute(sr, a.dst_re, p.order);
+        permute(si, a.dst_im, p.order);
+      }
+      if (p.leaf & 1) P::radix2(a.dst_re, a.dst_im, n);
+      else P::radix4_first(a.dst_re, a.dst_im, n, a.inverse);
+    }
+    block(a.dst_re, a.dst_im, p.order, 0);
+  }
+
+  // A leaf of order n: the remaining radix-4 stages (the first pass ran over
+  // the whole array in run()), then the scaling.
+  void leaf(T* re, T* im, int n) {
+    const std::size_t N = std::size_t(1) << n;
+    std::size_t L = (n & 1) ? 8 : 16;
+    const T* tw = p.first;
+    // An odd number of stages runs the first one alone; the others go in
+    // pairs, each pair one pass over the data.
+    if (((n - 1) / 2) % 2 == 1) {
+      P::radix4(re, im, N, L, tw, a.inverse);
+      tw += 2 * (3 * L / 4);
+      L *= 4;
+    }
+    for (; L <= N; L *= 16) {
+      const T* tw4 = tw + 2 * (3 * L / 4);
+      P::radix4x2(re, im, N, L, tw, tw4, a.inverse);
+      tw = tw4 + 2 * (3 * L);
+    }
+    if (a.scaled) P::scale(re, im, N, a.scale);
+  }
+
+  void block(T* re, T* im, int n, int level) {
+    if (level < p.levels && p.step[level].order == n) {
+      stepped(re, im, level);
+    } else if (n > p.leaf) {
+      const std::size_t h = std::size_t(1) << (n - 1);
+      block(re, im, n - 1, 3);
+      block(re + S * h, im + S * h, n - 1, 3);
+      const std::size_t c = std::size_t(1) << (p.two_level - 1);
+      P::combine2(re, im, h, p.second, c, std::size_t(1) << (p.two_level - n), a.inverse);
+    } else {
+      leaf(re, im, n);
+    }
+  }
+
+  void columns(T* w, const FftStep<T>& s) {
+    const std::size_t K = std::size_t(1) << s.k;
+    std::size_t L;
+    if (s.k & 1) {
+      P::col_radix2(w, K);
+      L = 8;
+    } else {
+      P::col_radix4_first(w, K, a.inverse);
+      L = 16;
+    }
+    for (const T* tw = s.col; L <= K; L *= 4) {
+      P::col_radix4(w, K, L, tw, a.inverse);
+      tw += 2 * (3 * L / 4);
+    }
+  }
+
+  void stepped(T* re, T* im, int level) {
+    const FftStep<T>& s = p.step[level];
+    const std::size_t K = std::size_t(1) << s.k;
+    const std::size_t M = std::size_t(1) << (s.order - s.k);
+    for (std::size_t b = 0; b < K; ++b) block(re + S * b * M, im + S * b * M, s.order - s.k, level + 1);
+    for (std::size_t g = 0; g < M / 4; ++g) {
+      P::gather(re, im, M, K, g, s.merge, a.work, a.inverse);
+      columns(a.work, s);
+      P::scatter(re, im, M, K, g, a.work);
+    }
+  }
+};
+
+template <class T, int S>
+void fft(const FftPlan<T>& p, const FftArgs<T>& a) {
+  Engine<T, S, Passes<T, S>>{p, a}.run();
+}
+
+}  // namespace scalar
+}  // namespace kels::kernels
+
+#endif  // KELS_KERNELS_FFT_H

@@ -1,0 +1,299 @@
+// Real FFT of length N = 2^order into the packed layouts Perm, Pack and CCS,
+// and back. Order >= 4 runs the complex transform of order - 1 on the signal
+// viewed as N/2 complex values, z[m] = x[2m] + i x[2m+1], then recombines
+// the pairs Z[k], Z[N/2 - k] with the record's factors e^(-2 pi i k/N).
+#include <cstdint>
+#include <cstring>
+
+#include "frame/common.h"
+#include "transform/fft_record.h"
+#include "transform/fft_small.h"
+
+namespace kels::fft {
+namespace {
+
+enum class Layout { Perm, Pack, Ccs };
+
+template <class T>
+Cx<T> conj(Cx<T> a) {
+  return {a.r, -a.i};
+}
+template <class T>
+Cx<T> cmul(Cx<T> a, Cx<T> b) {
+  return {a.r * b.r - a.i * b.i, a.r * b.i + a.i * b.r};
+}
+
+// Perm (as computed) to the requested layout, in place in dst (N + 2 values
+// for CCS).
+template <class T>
+void from_perm(T* d, std::size_t n, Layout lay) {
+  if (lay == Layout::Pack && n > 2) {
+    const T nyq = d[1];
+    std::memmove(d + 1, d + 2, (n - 2) * sizeof(T));
+    d[n - 1] = nyq;
+  } else if (lay == Layout::Ccs) {
+    if (n > 1) {
+      d[n] = d[1];
+      d[n + 1] = 0;
+    }
+    d[1] = 0;
+  }
+}
+
+// The requested layout to Perm: src (N values, N + 2 for CCS) into dst (N
+// values); src may equal dst.
+template <class T>
+void to_perm(const T* s, T* d, std::size_t n, Layout lay) {
+  if (n == 1) {
+    d[0] = s[0];
+    return;
+  }
+  if (lay == Layout::Pack) {
+    const T nyq = s[n - 1];
+    std::memmove(d + 2, s + 1, (n - 2) * sizeof(T));
+    d[0] = s[0];
+    d[1] = nyq;
+  } else {
+    const T nyq = lay == Layout::Ccs ? s[n] : s[1];
+    if (s != d) std::memcpy(d + 2, s + 2, (n - 2) * sizeof(T));
+    d[0] = s[0];
+    d[1] = nyq;
+  }
+}
+
+template <class T>
+const Header<T>* real_header(const void* spec) {
+  return static_cast<const Header<T>*>(spec);
+}
+
+// Orders 0..3: the complex straight-line transform of the real data, the
+// non-redundant half written as Perm.
+template <class T>
+void small_forward(int order, const T* src, T* dst, bool scaled, T scale) {
+  const int n = 1 << order;
+  Cx<T> x[8];
+  for (int i = 0; i < n; ++i) x[i] = {src[i], T(0)};
+  small_dft(order, x, false);
+  const T s = scaled ? scale : T(1);
+  dst[0] = x[0].r * s;
+  if (n == 1) return;
+  dst[1] = x[n / 2].r * s;
+  for (int k = 1; k < n / 2; ++k) {
+    dst[2 * k] = x[k].r * s;
+    dst[2 * k + 1] = x[k].i * s;
+  }
+}
+
+template <class T>
+void small_inverse(int order, const T* perm, T* dst, bool scaled, T scale) {
+  const int n = 1 << order;
+  Cx<T> x[8];
+  x[0] = {perm[0], T(0)};
+  if (n > 1) x[n / 2] = {perm[1], T(0)};
+  for (int k = 1; k < n / 2; ++k) {
+    x[k] = {perm[2 * k], perm[2 * k + 1]};
+    x[n - k] = {perm[2 * k], -perm[2 * k + 1]};
+  }
+  small_dft(order, x, true);
+  for (int i = 0; i < n; ++i) dst[i] = scaled ? x[i].r * scale : x[i].r;
+}
+
+// Forward recombination in place on the half-length spectrum Z (dst as
+// complex), leaving Perm.
+template <class T>
+void recombine_forward(T* d, std::size_t n, const T* w) {
+  auto* z = reinterpret_cast<Cx<T>*>(d);
+  const std::size_t m = n / 2;
+  const Cx<T> z0 = z[0];
+  d[0] = z0.r + z0.i;
+  d[1] = z0.r - z0.i;
+  for (std::size_t k = 1; k <= m / 2; ++k) {
+    const Cx<T> a = z[k], b = conj(z[m - k]);
+    const Cx<T> e = {(a.r + b.r) * T(0.5), (a.i + b.i) * T(0.5)};
+    // o = (a - b) / (2i)
+    const Cx<T> o = {(a.i - b.i) * T(0.5), (b.r - a.r) * T(0.5)};
+    const Cx<T> wk = k < m / 2 ? Cx<T>{w[2 * k], w[2 * k + 1]} : Cx<T>{T(0), T(-1)};
+    const Cx<T> t = cmul(wk, o);
+    z[k] = {e.r + t.r, e.i + t.i};
+    if (k != m - k) z[m - k] = {e.r - t.r, t.i - e.i};  // conj(e - t)
+  }
+}
+
+// Inverse recombination in place on Perm data: Z[k] = (X[k] + conj X[m-k])
+// + i (X[k] - conj X[m-k]) conj(w^k); the unscaled complex inverse of Z is
+// then N/2 * 2 = N times (x[2m] + i x[2m+1]).
+template <class T>
+void recombine_inverse(T* d, std::size_t n, const T* wc) {
+  auto* z = reinterpret_cast<Cx<T>*>(d);
+  const std::size_t m = n / 2;
+  const T r0 = d[0], rm = d[1];
+  z[0] = {r0 + rm, r0 - rm};
+  for (std::size_t k = 1; k <= m / 2; ++k) {
+    const Cx<T> xa = z[k], xb = conj(z[m - k]);
+    const Cx<T> e = {xa.r + xb.r, xa.i + xb.i};
+    const Cx<T> df = {xa.r - xb.r, xa.i - xb.i};
+    const Cx<T> wk = k < m / 2 ? Cx<T>{wc[2 * k], wc[2 * k + 1]} : Cx<T>{T(0), T(1)};
+    const Cx<T> o = cmul(df, wk);
+    // Z[k] = e + i o; Z[m-k] = conj(e) + i conj(o) (the same formula at m-k)
+    z[k] = {e.r - o.i, e.i + o.r};
+    if (k != m - k) z[m - k] = {e.r + o.i, o.r - e.i};
+  }
+}
+
+template <class T>
+void run_complex(const Header<T>* h, int corder, const T* src, T* dst, T* work, bool inv,
+                 bool scaled) {
+  const bool dbl = sizeof(T) == 8;
+  if (corder < 4) {
+    // The half-length transform itself is straight-line (8 points at most).
+    Cx<T> z[8];
+    const int m = 1 << corder;
+    for (int i = 0; i < m; ++i) z[i] = {src[2 * i], src[2 * i + 1]};
+    small_dft(corder, z, inv);
+    for (int i = 0; i < m; ++i) {
+      dst[2 * i] = scaled ? z[i].r * h->scale() : z[i].r;
+      dst[2 * i + 1] = scaled ? z[i].i * h->scale() : z[i].i;
+    }
+    return;
+  }
+  const kernels::FftPlan<T> plan = plan_of(h, corder, dbl);
+  const kernels::FftArgs<T> args{src, src + 1, dst, dst + 1, work, inv, scaled, h->scale()};
+  kernels::fft_interleaved(plan, args);
+}
+
+// Forward transform of checked arguments; src and dst may be equal.
+template <class T>
+void forward_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) {
+  const int order = h->order;
+  const std::size_t n = std::size_t{1} << order;
+  const bool scaled = h->scale_fwd != 0;
+  if (order < 4) {
+    T tmp[8];
+    small_forward(order, src, tmp, scaled, h->scale());
+    std::memcpy(dst, tmp, n * sizeof(T));
+  } else {
+    run_complex(h, order - 1, src, dst, work, false, scaled);
+    recombine_forward(dst, n, h->template at<T>(h->real_recombine));
+  }
+  from_perm(dst, n, lay);
+}
+
+// Inverse transform of checked arguments; src and dst may be equal.
+template <class T>
+void inverse_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) {
+  const int order = h->order;
+  const std::size_t n = std::size_t{1} << order;
+  const bool scaled = h->scale_inv != 0;
+  if (order < 4) {
+    T perm[8];
+    to_perm(src, perm, n, lay);
+    small_inverse(order, perm, dst, scaled, h->scale());
+    return;
+  }
+  to_perm(src, dst, n, lay);
+  recombine_inverse(dst, n, h->template at<T>(h->ccs_recombine));
+  run_complex(h, order - 1, dst, dst, work, true, scaled);
+}
+
+template <class T>
+KelStatus transform(const void* spec, std::uint32_t id, const T* src, T* dst, Kel8u* buf, Layout lay,
+                    bool inv) {
+  KELS_REQUIRE_PTRS(spec);
+  KELS_REQUIRE_ID(spec, id);
+  KELS_REQUIRE_PTRS(src, dst);
+  const Header<T>* h = real_header<T>(spec);
+  const WorkArea work(buf, h->order < 4 ? 0 : h->work_bytes);
+  if (work.failed()) return kelStsNoMemory;
+  if (inv) inverse_run(h, src, dst, work.as<T>(), lay);
+  else forward_run(h, src, dst, work.as<T>(), lay);
+  return kelStsOk;
+}
+
+// Integer real transforms (I in, O out): the data are converted exactly to
+// double precision in the work area, transformed there in place with the
+// double-precision record, and rounded (with 2^-scaleFactor) and saturated
+// into the destination; same error budget as the integer complex transforms.
+template <class I, class O>
+KelStatus int_transform(const void* spec, std::uint32_t id, const I* src, O* dst, int sf, Kel8u* buf,
+                        Layout lay, bool inv) {
+  KELS_REQUIRE_PTRS(spec);
+  KELS_REQUIRE_ID(spec, id);
+  KELS_REQUIRE_PTRS(src, dst);
+  const Header<double>* h = real_header<double>(spec);
+  const std::size_t n = std::size_t{1} << h->order;
+  // CCS holds N + 2 values, except R[0], 0 for N = 1.
+  const std::size_t packed = lay == Layout::Ccs ? (n == 1 ? 2 : n + 2) : n;
+  const std::size_t in_len = inv ? packed : n, out_len = inv ? n : packed;
+  const WorkArea work(h->order < 4 ? nullptr : buf, h->order < 4 ? 0 : h->work_bytes);
+  if (work.failed()) return kelStsNoMemory;
+  double local[10];
+  // N + 2 doubles of data, then (16-byte aligned, 16N bytes from the start)
+  // the double-precision work.
+  double* x = h->order < 4 ? local : work.as<double>();
+  double* dwork = h->order < 4 ? nullptr : x + 2 * n;
+  for (std::size_t i = 0; i < in_len; ++i) x[i] = static_cast<double>(src[i]);
+  if (inv) inverse_run(h, x, x, dwork, lay);
+  else forward_run(h, x, x, dwork, lay);
+  for (std::size_t i = 0; i < out_len; ++i) dst[i] = round_saturate<O>(std::ldexp(x[i], -sf));
+  return kelStsOk;
+}
+
+}  // namespace
+}  // namespace kels::fft
+
+using kels::fft::Layout;
+
+// (type code, element type, spec family, identifier)
+#define KELS_FFT_REAL_MEMBERS(X) X(32f, Kel32f, R_32f, 6u) X(64f, Kel64f, R_64f, 9u)
+#define KELS_FFT_REAL_INT_MEMBERS(X) X(16s, Kel16s, R_16s, 3u) X(32s, Kel32s, R_32s, 0x4C4D5366u)
+
+#define KELS_DEFINE_FFT_REAL_ONE(dir, name, inv, lay, code, T, fam, id)                              \
+  KELS_EXPORT KelStatus kelsFFT##dir##_##name##_##code(const T* pSrc, T* pDst,                        \
+                                                       const KelsFFTSpec_##fam* pSpec, Kel8u* pBuffer) { \
+    return kels::fft::transform<T>(pSpec, id, pSrc, pDst, pBuffer, lay, inv);                          \
+  }                                                                                                   \
+  KELS_EXPORT KelStatus kelsFFT##dir##_##name##_##code##_I(T* pSrcDst, const KelsFFTSpec_##fam* pSpec,  \
+                                                           Kel8u* pBuffer) {                          \
+    return kelsFFT##dir##_##name##_##code(pSrcDst, pSrcDst, pSpec, pBuffer);                          \
+  }
+#define KELS_DEFINE_FFT_REAL(code, T, fam, id)                                          \
+  KELS_DEFINE_FFT_REAL_ONE(Fwd, RToPerm, false, Layout::Perm, code, T, fam, id)         \
+  KELS_DEFINE_FFT_REAL_ONE(Fwd, RToPack, false, Layout::Pack, code, T, fam, id)         \
+  KELS_DEFINE_FFT_REAL_ONE(Fwd, RToCCS, false, Layout::Ccs, code, T, fam, id)           \
+  KELS_DEFINE_FFT_REAL_ONE(Inv, PermToR, true, Layout::Perm, code, T, fam, id)          \
+  KELS_DEFINE_FFT_REAL_ONE(Inv, PackToR, true, Layout::Pack, code, T, fam, id)          \
+  KELS_DEFINE_FFT_REAL_ONE(Inv, CCSToR, true, Layout::Ccs, code, T, fam, id)
+
+#define KELS_DEFINE_FFT_REAL_INT_ONE(dir, name, inv, lay, code, T, fam, id)                          \
+  KELS_EXPORT KelStatus kelsFFT##dir##_##name##_##code##_Sfs(                                         \
+      const T* pSrc, T* pDst, const KelsFFTSpec_##fam* pSpec, int scaleFactor, Kel8u* pBuffer) {      \
+    return kels::fft::int_transform<T, T>(pSpec, id, pSrc, pDst, scaleFactor, pBuffer, lay, inv);     \
+  }                                                                                                   \
+  KELS_EXPORT KelStatus kelsFFT##dir##_##name##_##code##_ISfs(                                        \
+      T* pSrcDst, const KelsFFTSpec_##fam* pSpec, int scaleFactor, Kel8u* pBuffer) {                  \
+    return kelsFFT##dir##_##name##_##code##_Sfs(pSrcDst, pSrcDst, pSpec, scaleFactor, pBuffer);       \
+  }
+#define KELS_DEFINE_FFT_REAL_INT(code, T, fam, id)                                      \
+  KELS_DEFINE_FFT_REAL_INT_ONE(Fwd, RToPerm, false, Layout::Perm, code, T, fam, id)     \
+  KELS_DEFINE_FFT_REAL_INT_ONE(Fwd, RToPack, false, Layout::Pack, code, T, fam, id)     \
+  KELS_DEFINE_FFT_REAL_INT_ONE(Fwd, RToCCS, false, Layout::Ccs, code, T, fam, id)       \
+  KELS_DEFINE_FFT_REAL_INT_ONE(Inv, PermToR, true, Layout::Perm, code, T, fam, id)      \
+  KELS_DEFINE_FFT_REAL_INT_ONE(Inv, PackToR, true, Layout::Pack, code, T, fam, id)      \
+  KELS_DEFINE_FFT_REAL_INT_ONE(Inv, CCSToR, true, Layout::Ccs, code, T, fam, id)
+
+KELS_FOR_MEMBERS(KELS_FFT_REAL_MEMBERS, KELS_DEFINE_FFT_REAL)
+KELS_FOR_MEMBERS(KELS_FFT_REAL_INT_MEMBERS, KELS_DEFINE_FFT_REAL_INT)
+
+// 16-bit signal, 32-bit CCS spectrum, and back.
+KELS_EXPORT KelStatus kelsFFTFwd_RToCCS_16s32s_Sfs(const Kel16s* pSrc, Kel32s* pDst,
+                                                   const KelsFFTSpec_R_16s32s* pSpec, int scaleFactor,
+                                                   Kel8u* pBuffer) {
+  return kels::fft::int_transform<Kel16s, Kel32s>(pSpec, 0x4C4D5367u, pSrc, pDst, scaleFactor, pBuffer,
+                                                  Layout::Ccs, false);
+}
+KELS_EXPORT KelStatus kelsFFTInv_CCSToR_32s16s_Sfs(const Kel32s* pSrc, Kel16s* pDst,
+                                                   const KelsFFTSpec_R_16s32s* pSpec, int scaleFactor,
+                                                   Kel8u* pBuffer) {
+  return kels::fft::int_transform<Kel32s, Kel16s>(pSpec, 0x4C4D5367u, pSrc, pDst, scaleFactor, pBuffer,
+                                                  Layout::Ccs, true);
+}
