@@ -14,6 +14,7 @@
 #include "fir/fir_record.h"
 #include "frame/common.h"
 #include "frame/malloc.h"
+#include "kels.h"
 #include "kernels/fir.h"
 
 namespace kels::fir {
@@ -150,18 +151,215 @@ void direct_block(Record* r, const data_t<M>* src, data_t<M>* dst, int n, int sf
   else run_kernel<M>(r, rest_in, dst + L4, rest, sf);
 }
 
-// Method selection of the block filter.
+// ---- Overlap-save through the real FFT.
 //
-// Records made by InitAlloc with at least 64 taps are meant to filter blocks
-// of kFftMinIters samples and more by overlap-save through the real FFT
-// (fftLen = twice the smallest power of two above L, per-thread blocks above
-// 160000 samples). That method needs the real transforms, which are not part
-// of the library yet: InitAlloc therefore prepares no FFT (fftSpec null,
-// fftLen -1) and every block takes the direct method, which gives the same
-// outputs up to rounding. Remaining: overlap-save through the real FFT and
-// its parallel path, chosen here when fftLen >= 1 and numIters >= kFftMinIters.
+// Prepared only on records made by InitAlloc with at least kFftMinTaps taps,
+// for the single-precision record (float transforms) and the "12IF" record
+// of the 64f_32s and _32s functions (double transforms of the integer data,
+// which convert exactly). The other records hold no FFT specification.
+constexpr int kFftMinTaps = 64;
+
+template <class M> constexpr bool has_fft = std::is_same_v<M, M32f> || std::is_same_v<M, M64f32s>;
+
+// The real-FFT functions of one precision.
+struct FftApi32 {
+  using F = Kel32f;
+  using Spec = KelsFFTSpec_R_32f;
+  static KelStatus init(Spec** p, int order) { return kelsFFTInitAlloc_R_32f(p, order, 2, 0); }
+  static KelStatus buf_size(const void* s, int* n) { return kelsFFTGetBufSize_R_32f(static_cast<const Spec*>(s), n); }
+  static KelStatus fwd(const F* a, F* b, const void* s, Kel8u* w) { return kelsFFTFwd_RToPerm_32f(a, b, static_cast<const Spec*>(s), w); }
+  static KelStatus inv(const F* a, F* b, const void* s, Kel8u* w) { return kelsFFTInv_PermToR_32f(a, b, static_cast<const Spec*>(s), w); }
+  static KelStatus mul(const F* a, F* b, int n) { return kelsMulPerm_32f_I(a, b, n); }
+  static void release(void* s) { kelsFFTFree_R_32f(static_cast<Spec*>(s)); }
+};
+struct FftApi64 {
+  using F = Kel64f;
+  using Spec = KelsFFTSpec_R_64f;
+  static KelStatus init(Spec** p, int order) { return kelsFFTInitAlloc_R_64f(p, order, 2, 0); }
+  static KelStatus buf_size(const void* s, int* n) { return kelsFFTGetBufSize_R_64f(static_cast<const Spec*>(s), n); }
+  static KelStatus fwd(const F* a, F* b, const void* s, Kel8u* w) { return kelsFFTFwd_RToPerm_64f(a, b, static_cast<const Spec*>(s), w); }
+  static KelStatus inv(const F* a, F* b, const void* s, Kel8u* w) { return kelsFFTInv_PermToR_64f(a, b, static_cast<const Spec*>(s), w); }
+  static KelStatus mul(const F* a, F* b, int n) { return kelsMulPerm_64f_I(a, b, n); }
+  static void release(void* s) { kelsFFTFree_R_64f(static_cast<Spec*>(s)); }
+};
+template <class M> using fft_api = std::conditional_t<std::is_same_v<M, M32f>, FftApi32, FftApi64>;
+template <class M> using fft_t = typename fft_api<M>::F;
+
+// Areas of the FFT method behind the record, in one allocation: transformed
+// taps (N values), per-thread statuses, per-thread N-value blocks, per-thread
+// FFT work buffers (each rounded up to 16 bytes).
+struct FftLayout {
+  std::uint64_t taps, status, blocks, work, work_stride, end;
+};
+template <class M>
+FftLayout fft_layout(std::uint64_t start, int N, int threads, int buf_size) {
+  FftLayout f{};
+  f.taps = r16(start);
+  f.status = f.taps + r16(static_cast<std::uint64_t>(N) * sizeof(fft_t<M>));
+  f.blocks = f.status + r16(static_cast<std::uint64_t>(threads) * sizeof(int));
+  f.work = f.blocks + static_cast<std::uint64_t>(threads) * r16(static_cast<std::uint64_t>(N) * sizeof(fft_t<M>));
+  f.work_stride = r16(static_cast<std::uint64_t>(buf_size < 0 ? 0 : buf_size));
+  f.end = f.work + static_cast<std::uint64_t>(threads) * f.work_stride;
+  return f;
+}
+
+// FFT work buffer of thread t (null when the transform needs none).
+template <class M>
+Kel8u* fft_work_of(Record* r, int t) {
+  int size = 0;
+  fft_api<M>::buf_size(r->fft_spec, &size);
+  if (size <= 0) return nullptr;
+  return area<Kel8u>(r, r->fft_work) + static_cast<std::size_t>(t) * r16(static_cast<std::uint64_t>(size));
+}
+
+// Transformed taps: the taps in the caller's order, zero-padded to N, to the
+// Perm format. A failing transform releases the specification, so the FFT
+// method is no longer chosen.
+template <class M>
+KelStatus fft_prepare_taps(Record* r) {
+  using F = fft_t<M>;
+  const int L = r->taps_len;
+  const int N = r->fft_len;
+  F* ft = area<F>(r, r->fft_taps);
+  const tap_t<M>* t = area<tap_t<M>>(r, r->taps);
+  for (int k = 0; k < L; ++k) ft[k] = static_cast<F>(t[L - 1 - k]);
+  zero_n(ft + L, N - L);
+  const KelStatus st = fft_api<M>::fwd(ft, ft, r->fft_spec, fft_work_of<M>(r, 0));
+  if (st < 0) {
+    fft_api<M>::release(r->fft_spec);
+    r->fft_spec = nullptr;
+    r->fft_len = -1;
+  }
+  return st;
+}
+
+// Data into a transform block and outputs back (the integer data convert
+// exactly to double; outputs round with 2^-sf and saturate).
+template <class M>
+void fft_load(const data_t<M>* x, fft_t<M>* b, int n) {
+  if constexpr (std::is_same_v<data_t<M>, fft_t<M>>) copy_n(x, b, n);
+  else for (int k = 0; k < n; ++k) b[k] = static_cast<fft_t<M>>(x[k]);
+}
+template <class M>
+void fft_store(const fft_t<M>* b, data_t<M>* y, int n, int sf) {
+  if constexpr (std::is_same_v<data_t<M>, fft_t<M>>) {
+    (void)sf;
+    copy_n(b, y, n);
+  } else {
+    for (int k = 0; k < n; ++k) y[k] = convert<data_t<M>>(b[k], sf, 0);
+  }
+}
+
+// Circular convolution of the block b with the taps: forward transform
+// (from src, which may be b), product with the transformed taps, inverse.
+template <class M>
+KelStatus fft_convolve(const Record* r, const fft_t<M>* src, fft_t<M>* b, Kel8u* w) {
+  using A = fft_api<M>;
+  KELS_RETURN_IF_ERROR(A::fwd(src, b, r->fft_spec, w));
+  KELS_RETURN_IF_ERROR(A::mul(area<fft_t<M>>(r, r->fft_taps), b, r->fft_len));
+  return A::inv(b, b, r->fft_spec, w);
+}
+
+// Block starting at in[i] of the long path: M overlap samples then S new
+// ones; R samples remain after the first block. Full blocks of float data
+// are transformed straight from the input.
+template <class M>
+KelStatus fft_one_block(Record* r, const data_t<M>* in, data_t<M>* out, int R, int i, fft_t<M>* b, Kel8u* w, int sf) {
+  const int N = r->fft_len;
+  const int hist = r->taps_len - 1;
+  const int S = N - hist;
+  const int rem = R - i;
+  int out_count = S;
+  if (rem < N) {
+    const int in_count = std::min(N, hist + rem);
+    out_count = std::min(S, rem);
+    fft_load<M>(in + i, b, in_count);
+    zero_n(b + in_count, N - in_count);
+    KELS_RETURN_IF_ERROR(fft_convolve<M>(r, b, b, w));
+  } else if constexpr (std::is_same_v<data_t<M>, fft_t<M>>) {
+    KELS_RETURN_IF_ERROR(fft_convolve<M>(r, in + i, b, w));
+  } else {
+    fft_load<M>(in + i, b, N);
+    KELS_RETURN_IF_ERROR(fft_convolve<M>(r, b, b, w));
+  }
+  fft_store<M>(b + hist, out + i, out_count, sf);
+  return kelStsOk;
+}
+
+// Overlap-save block filter. The first block takes its M overlap samples
+// from the history; the history is then replaced before the remaining
+// blocks, which read only the input. Above kParallelMinIters samples the
+// remaining blocks are split into contiguous ranges over the threads, each
+// with its own block and work buffer; every block is computed by the same
+// operations whoever computes it, so outputs do not depend on the split.
+template <class M>
+KelStatus fft_block(Record* r, const data_t<M>* src, data_t<M>* dst, int n, int sf) {
+  using D = data_t<M>;
+  using F = fft_t<M>;
+  const int L = r->taps_len;
+  const int N = r->fft_len;
+  const int hist = L - 1;
+  const int S = N - hist;
+  D* dly = area<D>(r, r->dly);
+  D* h = dly + r->dly_index;
+  F* b = area<F>(r, r->fft_blocks);
+  Kel8u* w = fft_work_of<M>(r, 0);
+  fft_load<M>(h + 1, b, hist);
+  if (n <= S) {
+    // New history: the last L of the held history followed by the inputs.
+    r->dly_index = 0;
+    fft_load<M>(src, b + hist, n);
+    if (n < L) move_n(h + n, dly, L - n);
+    copy_n(src + std::max(0, n - L), dly + std::max(0, L - n), std::min(n, L));
+    zero_n(b + hist + n, N - hist - n);
+    KELS_RETURN_IF_ERROR(fft_convolve<M>(r, b, b, w));
+    fft_store<M>(b + hist, dst, n, sf);
+    return kelStsOk;
+  }
+  fft_load<M>(src, b + hist, S);
+  r->dly_index = 0;
+  copy_n(src + (n - L), dly, L);
+  KELS_RETURN_IF_ERROR(fft_convolve<M>(r, b, b, w));
+  fft_store<M>(b + hist, dst, S, sf);
+  const D* in = src + (S - hist);
+  D* out = dst + S;
+  const int R = n - S;
+  if (R < 1) return kelStsOk;
+  const int blocks = (R + S - 1) / S;
+  const int threads = std::min(threads_omp_of_n_kel, r->fft_threads);
+  if (n <= kParallelMinIters || threads < 2) {
+    for (int j = 0; j < blocks; ++j) KELS_RETURN_IF_ERROR(fft_one_block<M>(r, in, out, R, j * S, b, w, sf));
+    return kelStsOk;
+  }
+  int* status = area<int>(r, r->fft_taps + static_cast<std::uint32_t>(r16(static_cast<std::uint64_t>(N) * sizeof(F))));
+  for (int t = 0; t < threads; ++t) status[t] = kelStsOk;
+  const std::size_t block_stride = static_cast<std::size_t>(r16(static_cast<std::uint64_t>(N) * sizeof(F)) / sizeof(F));
+#pragma omp parallel num_threads(threads)
+  {
+    const std::int64_t nt = omp_get_num_threads();
+    const int id = omp_get_thread_num();
+    const int lo = static_cast<int>(blocks * id / nt);
+    const int hi = static_cast<int>(blocks * (id + 1) / nt);
+    F* bt = b + block_stride * static_cast<std::size_t>(id);
+    Kel8u* wt = fft_work_of<M>(r, id);
+    int st = kelStsOk;
+    for (int j = lo; j < hi && st >= 0; ++j) st = fft_one_block<M>(r, in, out, R, j * S, bt, wt, sf);
+    status[id] = st;
+  }
+  int worst = kelStsOk;
+  for (int t = 0; t < threads; ++t) worst = std::min(worst, status[t]);
+  return static_cast<KelStatus>(worst);
+}
+
+// Method selection of the block filter: blocks of at least kFftMinIters
+// samples on a record with a prepared FFT go through overlap-save (about
+// 2 log2 N operations per output instead of L); the others, and every
+// block of a record without one, take the direct method.
 template <class M>
 KelStatus filter_block(Record* r, const data_t<M>* src, data_t<M>* dst, int n, int sf) {
+  if constexpr (has_fft<M>) {
+    if (n >= kFftMinIters && r->fft_len >= 1) return fft_block<M>(r, src, dst, n, sf);
+  }
   constexpr int piece = std::is_same_v<M, M64f32s> ? kPiece64f32s : std::numeric_limits<int>::max();
   for (int i = 0; i < n; i += piece) {
     const int m = std::min(piece, n - i);
@@ -397,6 +595,38 @@ void load_double_as_int(const Record* r, Kel32s* p, int* factor) {
   *factor = f;
 }
 
+// FFT preparation of InitAlloc: order = (smallest k >= 2 with 2^k > L) + 1,
+// so N > 2L and each block yields S = N - L + 1 > L + 1 outputs. A length
+// the transforms do not support, or areas too large for the record's
+// offsets, leave the record without the method; running out of memory
+// fails the call.
+struct FftPlan {
+  int N, threads;
+  FftLayout lay;
+};
+template <class M>
+KelStatus fft_plan(int L, std::uint64_t record_bytes, void** spec, FftPlan* plan) {
+  using A = fft_api<M>;
+  int order = 2;
+  while ((std::int64_t{1} << order) <= L) ++order;
+  ++order;
+  typename A::Spec* s = nullptr;
+  const KelStatus st = A::init(&s, order);
+  if (st == kelStsNoMemory) return st;
+  if (st < 0) return kelStsOk;
+  int buf = 0;
+  if (A::buf_size(s, &buf) < 0) buf = 0;
+  plan->N = 1 << order;
+  plan->threads = thread_count();
+  plan->lay = fft_layout<M>(record_bytes, plan->N, plan->threads, buf);
+  if (plan->lay.end > static_cast<std::uint64_t>(std::numeric_limits<std::int32_t>::max())) {
+    A::release(s);
+    return kelStsOk;
+  }
+  *spec = s;
+  return kelStsOk;
+}
+
 // ---- Exported operations.
 
 template <class M>
@@ -417,19 +647,46 @@ KelStatus init_family(State** pp, int L, const data_t<M>* history, Kel8u* buffer
   const int size = state_size<M>(L);
   if (size == 0) return kelStsBadFIRLength;
   void* mem;
+  void* spec = nullptr;
+  FftPlan plan{};
   if (buffer != nullptr) {
     const std::uintptr_t a = reinterpret_cast<std::uintptr_t>(buffer);
     mem = buffer + ((16 - a % 16) % 16);
   } else {
-    // The FFT method, once available, adds its transformed taps, per-thread
-    // blocks and FFT work buffers to this block for L >= 64.
-    mem = aligned_alloc_bytes(static_cast<std::uint32_t>(size));
-    if (mem == nullptr) return kelStsNoMemory;
+    std::uint64_t total = static_cast<std::uint64_t>(size);
+    if constexpr (has_fft<M>) {
+      if (L >= kFftMinTaps) {
+        KELS_RETURN_IF_ERROR(fft_plan<M>(L, static_cast<std::uint64_t>(size), &spec, &plan));
+        if (spec != nullptr) total = plan.lay.end;
+      }
+    }
+    mem = aligned_alloc_bytes(static_cast<std::uint32_t>(total));
+    if (mem == nullptr) {
+      if constexpr (has_fft<M>) {
+        if (spec != nullptr) fft_api<M>::release(spec);
+      }
+      return kelStsNoMemory;
+    }
   }
   Record* r = build<M>(mem, L, history);
   r->owned = buffer == nullptr ? 1 : 0;
   store(r);
   fill_x4<M>(r);
+  if constexpr (has_fft<M>) {
+    if (spec != nullptr) {
+      r->fft_spec = spec;
+      r->fft_len = plan.N;
+      r->fft_threads = plan.threads;
+      r->fft_taps = static_cast<std::uint32_t>(plan.lay.taps);
+      r->fft_blocks = static_cast<std::uint32_t>(plan.lay.blocks);
+      r->fft_work = static_cast<std::uint32_t>(plan.lay.work);
+      const KelStatus st = fft_prepare_taps<M>(r);
+      if (st < 0) {
+        aligned_free(r);
+        return st;
+      }
+    }
+  }
   *pp = reinterpret_cast<State*>(r);
   return kelStsOk;
 }
@@ -440,7 +697,9 @@ KelStatus free_family(State* s) {
   KELS_REQUIRE_ID(s, M::id);
   Record* r = rec(s);
   if (r->owned == 0) return kelStsOk;
-  // A prepared FFT specification would be released here, before the record.
+  if constexpr (has_fft<M>) {
+    if (r->fft_spec != nullptr) fft_api<M>::release(r->fft_spec);
+  }
   aligned_free(r);
   return kelStsOk;
 }
@@ -454,14 +713,17 @@ KelStatus taps_family(State* s, const void* taps, Fn fn) {
   return kelStsOk;
 }
 
-// Replacing taps keeps the history. A prepared FFT would have its
-// transformed taps rebuilt here.
+// Replacing taps keeps the history; a prepared FFT has its transformed
+// taps rebuilt (a failing transform gives its status and drops the method).
 template <class M, class State, class Fn>
 KelStatus set_taps_family(State* s, const void* taps, Fn store) {
   KELS_REQUIRE_PTRS(s, taps);
   KELS_REQUIRE_ID(s, M::id);
   store(rec(s));
   fill_x4<M>(rec(s));
+  if constexpr (has_fft<M>) {
+    if (rec(s)->fft_spec != nullptr) return fft_prepare_taps<M>(rec(s));
+  }
   return kelStsOk;
 }
 
