@@ -33,6 +33,32 @@ int main(void) {
     report("kelsJoinScaled_32f16s_D2L(ch, 1, 8, pcm)", kelsJoinScaled_32f16s_D2L(channels, 1, 8, pcm));
     printf("    -1.0 -> %d, 1.0 -> %d, 0.0 -> %d\n", pcm[0], pcm[1], pcm[2]);
   }
+  {
+    /* Scaled integer arithmetic: (1 + 2) / 2 = 1.5 rounds to the even 2. */
+    Kel16s a[2] = {1, 30000}, b[2] = {2, 30000}, c[2];
+    report("kelsAdd_16s_Sfs(a, b, c, 2, 1)", kelsAdd_16s_Sfs(a, b, c, 2, 1));
+    printf("    1 + 2 scaled by 1/2 -> %d, 30000 + 30000 scaled by 1/2 -> %d\n", c[0], c[1]);
+  }
+  {
+    /* An 8-point FFT of a unit impulse is flat. */
+    KelsFFTSpec_C_32fc* spec = NULL;
+    Kel32fc in[8] = {{1.0f, 0.0f}}, out[8];
+    report("kelsFFTInitAlloc_C_32fc(&spec, 3, ...)",
+           kelsFFTInitAlloc_C_32fc(&spec, 3, KEL_FFT_SCALE_NONE, kelAlgHintAccurate));
+    report("kelsFFTFwd_CToC_32fc(in, out, spec, NULL)", kelsFFTFwd_CToC_32fc(in, out, spec, NULL));
+    printf("    out[0] = %g%+gi, out[5] = %g%+gi\n", out[0].re, out[0].im, out[5].re, out[5].im);
+    report("kelsFFTFree_C_32fc(spec)", kelsFFTFree_C_32fc(spec));
+  }
+  {
+    Kel32f sum = 0.0f;
+    Kel16s pcm2[3] = {0, 1000, -32768};
+    Kel8u mu[3];
+    report("kelsSum_32f(x, 8, &sum, accurate)", kelsSum_32f(x, 8, &sum, kelAlgHintAccurate));
+    printf("    sum = %g\n", sum);
+    report("kelsLinToMuLaw_16s8u(pcm, mu, 3)", kelsLinToMuLaw_16s8u(pcm2, mu, 3));
+    printf("    mu-law codes: 0x%02X 0x%02X 0x%02X\n", mu[0], mu[1], mu[2]);
+  }
+  printf("\nBad arguments are reported, and nothing is written:\n");
   report("kelsCopy_32f(NULL, y, 8)", kelsCopy_32f(NULL, y, 8));
   report("kelsCopy_32f(x, y, 0)", kelsCopy_32f(x, y, 0));
   kelsFree(x);

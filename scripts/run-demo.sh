@@ -3,6 +3,6 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 ./scripts/install-deps.sh
-cmake --preset release -DKELS_BUILD_TESTS=OFF
+cmake --preset release
 cmake --build --preset release --target kels_demo
 ./build/release/examples/kels_demo
