@@ -26,30 +26,30 @@ struct KelsFft;
 template <>
 struct KelsFft<float> {
   using C = Kel32fc;
-  KelsFFTSpec_C_32fc* spec = nullptr;
-  explicit KelsFft(int order) { kelsFFTInitAlloc_C_32fc(&spec, order, KEL_FFT_SCALE_NONE, 0); }
-  ~KelsFft() { kelsFFTFree_C_32fc(spec); }
+  KelsFFTSpec_C_32fc* record = nullptr;
+  explicit KelsFft(int order) { kelsFFTInitAlloc_C_32fc(&record, order, KEL_FFT_SCALE_NONE, 0); }
+  ~KelsFft() { kelsFFTFree_C_32fc(record); }
   int buf_size() const {
     int n = 0;
-    kelsFFTGetBufSize_C_32fc(spec, &n);
+    kelsFFTGetBufSize_C_32fc(record, &n);
     return n;
   }
-  void run(const C* x, C* y, Kel8u* buf) const { kelsFFTFwd_CToC_32fc(x, y, spec, buf); }
+  void run(const C* x, C* y, Kel8u* buf) const { kelsFFTFwd_CToC_32fc(x, y, record, buf); }
   static C* alloc(int n) { return kelsMalloc_32fc(n); }
 };
 
 template <>
 struct KelsFft<double> {
   using C = Kel64fc;
-  KelsFFTSpec_C_64fc* spec = nullptr;
-  explicit KelsFft(int order) { kelsFFTInitAlloc_C_64fc(&spec, order, KEL_FFT_SCALE_NONE, 0); }
-  ~KelsFft() { kelsFFTFree_C_64fc(spec); }
+  KelsFFTSpec_C_64fc* record = nullptr;
+  explicit KelsFft(int order) { kelsFFTInitAlloc_C_64fc(&record, order, KEL_FFT_SCALE_NONE, 0); }
+  ~KelsFft() { kelsFFTFree_C_64fc(record); }
   int buf_size() const {
     int n = 0;
-    kelsFFTGetBufSize_C_64fc(spec, &n);
+    kelsFFTGetBufSize_C_64fc(record, &n);
     return n;
   }
-  void run(const C* x, C* y, Kel8u* buf) const { kelsFFTFwd_CToC_64fc(x, y, spec, buf); }
+  void run(const C* x, C* y, Kel8u* buf) const { kelsFFTFwd_CToC_64fc(x, y, record, buf); }
   static C* alloc(int n) { return kelsMalloc_64fc(n); }
 };
 

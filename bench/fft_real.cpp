@@ -22,10 +22,10 @@ template <bool Inverse>
 void BM_RealFFT_Ratio(benchmark::State& st) {
   const int order = static_cast<int>(st.range(0));
   const int n = 1 << order;
-  KelsFFTSpec_R_32f* spec = nullptr;
-  kelsFFTInitAlloc_R_32f(&spec, order, KEL_FFT_SCALE_NONE, 0);
+  KelsFFTSpec_R_32f* record = nullptr;
+  kelsFFTInitAlloc_R_32f(&record, order, KEL_FFT_SCALE_NONE, 0);
   int bs = 0;
-  kelsFFTGetBufSize_R_32f(spec, &bs);
+  kelsFFTGetBufSize_R_32f(record, &bs);
   std::vector<Kel8u> buf(static_cast<std::size_t>(bs) + 1);
   Kel32f* x = kelsMalloc_32f(n + 2);
   Kel32f* y = kelsMalloc_32f(n + 2);
@@ -37,8 +37,8 @@ void BM_RealFFT_Ratio(benchmark::State& st) {
   if (Inverse) x[1] = x[n + 1] = 0;
   const int reps = n >= (1 << 14) ? 1 : (1 << 14) / n;
   auto run_kels = [&] {
-    if (Inverse) kelsFFTInv_CCSToR_32f(x, y, spec, buf.data());
-    else kelsFFTFwd_RToCCS_32f(x, y, spec, buf.data());
+    if (Inverse) kelsFFTInv_CCSToR_32f(x, y, record, buf.data());
+    else kelsFFTFwd_RToCCS_32f(x, y, record, buf.data());
   };
 #ifdef KELS_HAVE_FFTW
   // c2r overwrites its input; the repeated calls time the same work anyway.
@@ -49,7 +49,7 @@ void BM_RealFFT_Ratio(benchmark::State& st) {
 #endif
   kelsFree(x);
   kelsFree(y);
-  kelsFFTFree_R_32f(spec);
+  kelsFFTFree_R_32f(record);
 }
 
 void BM_MulPerm_Ratio(benchmark::State& st) {

@@ -126,10 +126,10 @@ void BM_FIR_32f_fftw_ols(benchmark::State& st) {
   const int S = N - L + 1;
   Buffer<Kel32f> taps(L), x(n), y(n);
   float* blk = fftwf_alloc_real(static_cast<std::size_t>(N));
-  fftwf_complex* spec = fftwf_alloc_complex(static_cast<std::size_t>(N / 2 + 1));
+  fftwf_complex* record = fftwf_alloc_complex(static_cast<std::size_t>(N / 2 + 1));
   fftwf_complex* hspec = fftwf_alloc_complex(static_cast<std::size_t>(N / 2 + 1));
-  fftwf_plan fwd = fftwf_plan_dft_r2c_1d(N, blk, spec, FFTW_MEASURE);
-  fftwf_plan inv = fftwf_plan_dft_c2r_1d(N, spec, blk, FFTW_MEASURE);
+  fftwf_plan fwd = fftwf_plan_dft_r2c_1d(N, blk, record, FFTW_MEASURE);
+  fftwf_plan inv = fftwf_plan_dft_c2r_1d(N, record, blk, FFTW_MEASURE);
   std::fill(blk, blk + N, 0.0f);
   std::copy(taps.data(), taps.data() + L, blk);
   fftwf_execute_dft_r2c(fwd, blk, hspec);
@@ -142,14 +142,14 @@ void BM_FIR_32f_fftw_ols(benchmark::State& st) {
       const int avail = std::min(N, m + L - 1);
       std::copy(stream.data() + i, stream.data() + i + avail, blk);
       std::fill(blk + avail, blk + N, 0.0f);
-      fftwf_execute_dft_r2c(fwd, blk, spec);
+      fftwf_execute_dft_r2c(fwd, blk, record);
       for (int k = 0; k <= N / 2; ++k) {
-        const float re = spec[k][0] * hspec[k][0] - spec[k][1] * hspec[k][1];
-        const float im = spec[k][0] * hspec[k][1] + spec[k][1] * hspec[k][0];
-        spec[k][0] = re * scale;
-        spec[k][1] = im * scale;
+        const float re = record[k][0] * hspec[k][0] - record[k][1] * hspec[k][1];
+        const float im = record[k][0] * hspec[k][1] + record[k][1] * hspec[k][0];
+        record[k][0] = re * scale;
+        record[k][1] = im * scale;
       }
-      fftwf_execute_dft_c2r(inv, spec, blk);
+      fftwf_execute_dft_c2r(inv, record, blk);
       std::copy(blk + L - 1, blk + L - 1 + m, y.data() + i);
     }
     std::memmove(stream.data(), stream.data() + n, sizeof(float) * static_cast<std::size_t>(L - 1));
@@ -158,7 +158,7 @@ void BM_FIR_32f_fftw_ols(benchmark::State& st) {
   fftwf_destroy_plan(fwd);
   fftwf_destroy_plan(inv);
   fftwf_free(blk);
-  fftwf_free(spec);
+  fftwf_free(record);
   fftwf_free(hspec);
   finish(st, n);
 }
