@@ -157,6 +157,147 @@ void Radix4x2Rows(D d, T* HWY_RESTRICT re, T* HWY_RESTRICT im, size_t n, size_t 
   }
 }
 
+// Transposes V x V complex values held in V vectors of V complex each:
+// afterwards v[j] lane i holds what v[i] lane j held.
+template <class D, class C>
+HWY_INLINE void TransposeCx(D d, C* v) {
+  using T = hn::TFromD<D>;
+  constexpr size_t kBytes = sizeof(T) * hn::MaxLanes(D());
+  const size_t V = hn::Lanes(d) / 2;
+  if (V == 1) return;
+  if constexpr (sizeof(T) == 4 && kBytes == 16) {
+    const hn::Repartition<uint64_t, D> du;
+    const auto a = hn::BitCast(du, v[0].v), b = hn::BitCast(du, v[1].v);
+    v[0].v = hn::BitCast(d, hn::InterleaveLower(du, a, b));
+    v[1].v = hn::BitCast(d, hn::InterleaveUpper(du, a, b));
+  } else if constexpr (sizeof(T) == 8 && kBytes == 32) {
+    const auto a = v[0].v, b = v[1].v;
+    v[0].v = hn::ConcatLowerLower(d, b, a);
+    v[1].v = hn::ConcatUpperUpper(d, b, a);
+  } else if constexpr (sizeof(T) == 4 && kBytes == 32) {
+    const hn::Repartition<uint64_t, D> du;
+    const auto a = hn::BitCast(du, v[0].v), b = hn::BitCast(du, v[1].v);
+    const auto c = hn::BitCast(du, v[2].v), e = hn::BitCast(du, v[3].v);
+    const auto abl = hn::InterleaveLower(du, a, b), abu = hn::InterleaveUpper(du, a, b);
+    const auto cel = hn::InterleaveLower(du, c, e), ceu = hn::InterleaveUpper(du, c, e);
+    v[0].v = hn::BitCast(d, hn::ConcatLowerLower(du, cel, abl));
+    v[1].v = hn::BitCast(d, hn::ConcatLowerLower(du, ceu, abu));
+    v[2].v = hn::BitCast(d, hn::ConcatUpperUpper(du, cel, abl));
+    v[3].v = hn::BitCast(d, hn::ConcatUpperUpper(du, ceu, abu));
+  }
+}
+
+// Natural-order 4-point DFT of a0..a3 (Bfly4 takes bit-reversed order).
+template <class O, class C>
+HWY_INLINE void Dft4(const O& o, C& a0, C& a1, C& a2, C& a3) {
+  C x0 = a0, x1 = a2, x2 = a1, x3 = a3;
+  Bfly4(o, x0, x1, x2, x3);
+  a0 = x0;
+  a1 = x1;
+  a2 = x2;
+  a3 = x3;
+}
+
+// Natural-order B-point DFT (B = 8 or 16) of y[0..B-1], each lane an
+// independent transform; the result replaces y. B = 4 * B1 with s = 4 s1 + s0
+// and k = k1 + B1 k0: B1-point transforms over s1, twiddles w_B^(s0 k1),
+// then 4-point transforms over s0.
+template <size_t B, class O, class C>
+HWY_INLINE void DftLanes(const O& o, C* y) {
+  using T = hn::TFromD<decltype(o.d)>;
+  constexpr T c1 = T(0.92387953251128675613L), s1 = T(0.38268343236508977173L);
+  constexpr T h = T(0.70710678118654752440L);
+  auto tw = [&](C a, T wr, T wi) { return o.mul_b(a, hn::Set(o.d, wr), hn::Set(o.d, wi)); };
+  C z[16];
+  if constexpr (B == 16) {
+    for (size_t s0 = 0; s0 < 4; ++s0) {
+      C a0 = y[s0], a1 = y[4 + s0], a2 = y[8 + s0], a3 = y[12 + s0];
+      Dft4(o, a0, a1, a2, a3);
+      z[4 * s0] = a0;
+      z[4 * s0 + 1] = a1;
+      z[4 * s0 + 2] = a2;
+      z[4 * s0 + 3] = a3;
+    }
+    // z[4 s0 + k1] *= w16^(s0 k1)
+    z[5] = tw(z[5], c1, -s1);
+    z[6] = tw(z[6], h, -h);
+    z[7] = tw(z[7], s1, -c1);
+    z[9] = tw(z[9], h, -h);
+    z[10] = o.rot(z[10]);
+    z[11] = tw(z[11], -h, -h);
+    z[13] = tw(z[13], s1, -c1);
+    z[14] = tw(z[14], -h, -h);
+    z[15] = tw(z[15], -c1, s1);
+    for (size_t k1 = 0; k1 < 4; ++k1) {
+      C a0 = z[k1], a1 = z[4 + k1], a2 = z[8 + k1], a3 = z[12 + k1];
+      Dft4(o, a0, a1, a2, a3);
+      y[k1] = a0;
+      y[k1 + 4] = a1;
+      y[k1 + 8] = a2;
+      y[k1 + 12] = a3;
+    }
+  } else {
+    for (size_t s0 = 0; s0 < 4; ++s0) {
+      z[2 * s0] = o.add(y[s0], y[4 + s0]);
+      z[2 * s0 + 1] = o.sub(y[s0], y[4 + s0]);
+    }
+    // z[2 s0 + 1] *= w8^s0
+    z[3] = tw(z[3], h, -h);
+    z[5] = o.rot(z[5]);
+    z[7] = tw(z[7], -h, -h);
+    for (size_t k1 = 0; k1 < 2; ++k1) {
+      C a0 = z[k1], a1 = z[2 + k1], a2 = z[4 + k1], a3 = z[6 + k1];
+      Dft4(o, a0, a1, a2, a3);
+      y[k1] = a0;
+      y[k1 + 2] = a1;
+      y[k1 + 4] = a2;
+      y[k1 + 6] = a3;
+    }
+  }
+}
+
+// First pass of the interleaved engine on blocks of B = 16 (even leaf
+// orders) or 8 points: the first two radix-4 stages (radix-2 and radix-4
+// for B = 8) as one in-register B-point transform. Lanes run over V
+// consecutive transforms; each lane's B results are regrouped by V x V
+// transposes and stored as contiguous runs of its block.
+//   fused:  block m = rev(B r) takes src[r + s N/B], s = 0..B-1 (the
+//           permutation happens in the loads and stores);
+//   else:   the array was permuted already; block m holds its inputs in
+//           bit-reversed position order and is transformed in place.
+template <size_t B, bool INV, class D, class T>
+void LeadBlocks(D d, const T* src, T* dst, size_t n, const scalar::BitRev& rev, bool fused) {
+  const CxOps<D, 2, INV> o(d);
+  using C = typename CxOps<D, 2, INV>::C;
+  const size_t V = hn::Lanes(d) / 2;
+  const size_t cnt = n / B;
+  constexpr size_t kRev16[16] = {0, 8, 4, 12, 2, 10, 6, 14, 1, 9, 5, 13, 3, 11, 7, 15};
+  constexpr size_t kRev8[8] = {0, 4, 2, 6, 1, 5, 3, 7};
+  size_t base[4];
+  for (size_t r = 0; r < cnt; r += V) {
+    C y[B];
+    if (fused) {
+      for (size_t s = 0; s < B; ++s) y[s] = o.load(src, nullptr, r + s * cnt);
+      for (size_t i = 0; i < V; ++i) base[i] = B * rev(B * (r + i));
+    } else {
+      for (size_t i = 0; i < V; ++i) base[i] = B * (r + i);
+      for (size_t g = 0; g < B; g += V) {
+        C u[4];
+        for (size_t i = 0; i < V; ++i) u[i] = o.load(dst, nullptr, base[i] + g);
+        TransposeCx(d, u);
+        for (size_t j = 0; j < V; ++j) y[B == 16 ? kRev16[g + j] : kRev8[g + j]] = u[j];
+      }
+    }
+    DftLanes<B>(o, y);
+    for (size_t g = 0; g < B; g += V) {
+      C u[4];
+      for (size_t i = 0; i < V; ++i) u[i] = y[g + i];
+      TransposeCx(d, u);
+      for (size_t i = 0; i < V; ++i) o.store(dst, nullptr, base[i] + g, u[i]);
+    }
+  }
+}
+
 template <class T, int S>
 struct VecPasses : scalar::Passes<T, S> {
   using Base = scalar::Passes<T, S>;
@@ -168,10 +309,13 @@ struct VecPasses : scalar::Passes<T, S> {
   template <bool INV>
   static void radix4_t(T* re, T* im, size_t n, size_t L, const T* tw) {
     const size_t q = L / 4;
+    const hn::ScalableTag<T> dz;
     const hn::CappedTag<T, 32 / sizeof(T)> df;
     const hn::CappedTag<T, 4> d4;
     const hn::CappedTag<T, 2> d2;
-    if (q * S >= hn::Lanes(df)) {
+    if (q * S >= hn::Lanes(dz)) {
+      Radix4Rows<S, INV>(dz, re, im, n, L, tw);
+    } else if (q * S >= hn::Lanes(df)) {
       Radix4Rows<S, INV>(df, re, im, n, L, tw);
     } else if (q * S >= hn::Lanes(d4) && hn::Lanes(d4) >= size_t(S)) {
       Radix4Rows<S, INV>(d4, re, im, n, L, tw);
@@ -189,10 +333,13 @@ struct VecPasses : scalar::Passes<T, S> {
   template <bool INV>
   static void radix4x2_t(T* re, T* im, size_t n, size_t L, const T* tw, const T* tw4) {
     const size_t q = L / 4;
+    const hn::ScalableTag<T> dz;
     const hn::CappedTag<T, 32 / sizeof(T)> df;
     const hn::CappedTag<T, 4> d4;
     const hn::CappedTag<T, 2> d2;
-    if (q * S >= hn::Lanes(df)) {
+    if (q * S >= hn::Lanes(dz)) {
+      Radix4x2Rows<S, INV>(dz, re, im, n, L, tw, tw4);
+    } else if (q * S >= hn::Lanes(df)) {
       Radix4x2Rows<S, INV>(df, re, im, n, L, tw, tw4);
     } else if (q * S >= hn::Lanes(d4) && hn::Lanes(d4) >= size_t(S)) {
       Radix4x2Rows<S, INV>(d4, re, im, n, L, tw, tw4);
@@ -205,6 +352,30 @@ struct VecPasses : scalar::Passes<T, S> {
   static void radix4x2(T* re, T* im, size_t n, size_t L, const T* tw, const T* tw4, bool inv) {
     if (inv) radix4x2_t<true>(re, im, n, L, tw, tw4);
     else radix4x2_t<false>(re, im, n, L, tw, tw4);
+  }
+
+  // ---- First pass: B-point blocks in registers (interleaved layout).
+  template <bool INV>
+  static void lead_t(const T* src, T* dst, size_t n, int leaf, const scalar::BitRev& rev,
+                     bool fused) {
+    // 256-bit vectors: two levels of transposes instead of three.
+    const hn::CappedTag<T, 32 / sizeof(T)> dw;
+    const hn::CappedTag<T, 2> d1;  // one complex per vector
+    const size_t cnt = n >> (leaf & 1 ? 3 : 4);
+    if (cnt >= hn::Lanes(dw) / 2) {
+      if (leaf & 1) LeadBlocks<8, INV>(dw, src, dst, n, rev, fused);
+      else LeadBlocks<16, INV>(dw, src, dst, n, rev, fused);
+    } else {
+      if (leaf & 1) LeadBlocks<8, INV>(d1, src, dst, n, rev, fused);
+      else LeadBlocks<16, INV>(d1, src, dst, n, rev, fused);
+    }
+  }
+  static size_t lead(const T* sre, const T* sim, T* dre, T* dim, size_t n, int leaf,
+                     const scalar::BitRev& rev, bool fused, bool inv) {
+    if (S != 2) return Base::lead(sre, sim, dre, dim, n, leaf, rev, fused, inv);
+    if (inv) lead_t<true>(sre, dre, n, leaf, rev, fused);
+    else lead_t<false>(sre, dre, n, leaf, rev, fused);
+    return leaf & 1 ? 8 : 16;
   }
 
   // ---- First pass fused with the permutation (interleaved layout). Lane i

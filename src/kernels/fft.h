@@ -215,6 +215,22 @@ struct Passes {
     }
   }
 
+  // The first pass over the whole array: the first stages of every leaf, on
+  // blocks of 2 (odd leaf orders) or 4 elements, fused with the bit-reversal
+  // permutation when the data are read from a separate source, else on the
+  // permuted destination. Returns the block length transformed.
+  static std::size_t lead(const T* sre, const T* sim, T* dre, T* dim, std::size_t n, int leaf,
+                          const BitRev& rev, bool fused, bool inv) {
+    if (leaf & 1) {
+      if (fused) first2_fused(sre, sim, dre, dim, n, rev);
+      else radix2(dre, dim, n);
+      return 2;
+    }
+    if (fused) first4_fused(sre, sim, dre, dim, n, rev, inv);
+    else radix4_first(dre, dim, n, inv);
+    return 4;
+  }
+
   // One radix-4 stage of length L (>= 8) over n elements, twiddles from the
   // stage block tw (3L/4 entries), for butterfly indices j0 <= j < q.
   static void radix4_range(T* re, T* im, std::size_t n, std::size_t L, const T* tw, bool inv,
@@ -400,6 +416,7 @@ template <class T, int S, class P>
 struct Engine {
   const FftPlan<T>& p;
   const FftArgs<T>& a;
+  std::size_t lead_ = 0;  // block length the first pass transformed
 
   void run() {
     const std::size_t n = std::size_t(1) << p.order;
@@ -423,31 +440,30 @@ struct Engine {
       }
     }
     const BitRev rev(p.rev, p.order);
-    if (sr != a.dst_re && si != a.dst_im) {
-      if (p.leaf & 1) P::first2_fused(sr, si, a.dst_re, a.dst_im, n, rev);
-      else P::first4_fused(sr, si, a.dst_re, a.dst_im, n, rev, a.inverse);
-    } else {
+    const bool fused = sr != a.dst_re && si != a.dst_im;
+    if (!fused) {
       if (S == 2) {
         permute(reinterpret_cast<const Pair<T>*>(sr), reinterpret_cast<Pair<T>*>(a.dst_re), p.order);
       } else {
         permute(sr, a.dst_re, p.order);
         permute(si, a.dst_im, p.order);
       }
-      if (p.leaf & 1) P::radix2(a.dst_re, a.dst_im, n);
-      else P::radix4_first(a.dst_re, a.dst_im, n, a.inverse);
     }
+    lead_ = P::lead(sr, si, a.dst_re, a.dst_im, n, p.leaf, rev, fused, a.inverse);
     block(a.dst_re, a.dst_im, p.order, 0);
   }
 
-  // A leaf of order n: the remaining radix-4 stages (the first pass ran over
-  // the whole array in run()), then the scaling.
+  // A leaf of order n: the radix-4 stages after the blocks of lead_ points
+  // that the first pass transformed over the whole array, then the scaling.
   void leaf(T* re, T* im, int n) {
     const std::size_t N = std::size_t(1) << n;
-    std::size_t L = (n & 1) ? 8 : 16;
-    const T* tw = p.first;
+    std::size_t L = 4 * lead_;
+    const T* tw = p.first + stage_offset(n, L);
+    int stages = 0;
+    for (std::size_t l = L; l <= N; l *= 4) ++stages;
     // An odd number of stages runs the first one alone; the others go in
     // pairs, each pair one pass over the data.
-    if (((n - 1) / 2) % 2 == 1) {
+    if (stages % 2 == 1) {
       P::radix4(re, im, N, L, tw, a.inverse);
       tw += 2 * (3 * L / 4);
       L *= 4;
@@ -461,7 +477,7 @@ struct Engine {
   }
 
   void block(T* re, T* im, int n, int level) {
-    if (level < p.levels && p.step[level].order == n) {
+    if (level < p.levels && level < 3 && p.step[level].order == n) {
       stepped(re, im, level);
     } else if (n > p.leaf) {
       const std::size_t h = std::size_t(1) << (n - 1);
