@@ -185,7 +185,21 @@ HWY_INLINE void TransposeCx(D d, C* v) {
     v[2].v = hn::BitCast(d, hn::ConcatUpperUpper(du, cel, abl));
     v[3].v = hn::BitCast(d, hn::ConcatUpperUpper(du, ceu, abu));
   }
+#if HWY_TARGET == HWY_AVX3
+  else if constexpr (sizeof(T) == 8 && kBytes == 64) {
+    // 128-bit units: (a0 a2 b0 b2), (a1 a3 b1 b3), ... then one more round.
+    const auto t0 = _mm512_shuffle_f64x2(v[0].v.raw, v[1].v.raw, _MM_SHUFFLE(2, 0, 2, 0));
+    const auto t1 = _mm512_shuffle_f64x2(v[0].v.raw, v[1].v.raw, _MM_SHUFFLE(3, 1, 3, 1));
+    const auto t2 = _mm512_shuffle_f64x2(v[2].v.raw, v[3].v.raw, _MM_SHUFFLE(2, 0, 2, 0));
+    const auto t3 = _mm512_shuffle_f64x2(v[2].v.raw, v[3].v.raw, _MM_SHUFFLE(3, 1, 3, 1));
+    v[0].v.raw = _mm512_shuffle_f64x2(t0, t2, _MM_SHUFFLE(2, 0, 2, 0));
+    v[2].v.raw = _mm512_shuffle_f64x2(t0, t2, _MM_SHUFFLE(3, 1, 3, 1));
+    v[1].v.raw = _mm512_shuffle_f64x2(t1, t3, _MM_SHUFFLE(2, 0, 2, 0));
+    v[3].v.raw = _mm512_shuffle_f64x2(t1, t3, _MM_SHUFFLE(3, 1, 3, 1));
+  }
+#endif
 }
+
 
 // Natural-order 4-point DFT of a0..a3 (Bfly4 takes bit-reversed order).
 template <class O, class C>
@@ -196,6 +210,34 @@ HWY_INLINE void Dft4(const O& o, C& a0, C& a1, C& a2, C& a3) {
   a1 = x1;
   a2 = x2;
   a3 = x3;
+}
+
+// Twiddles w16^(s0 k1) for k1 = 1..3 (rows) and s0 = 0..3 (lanes),
+// interleaved.
+template <class T>
+struct Tw16 {
+  static constexpr T c1 = T(0.92387953251128675613L), s1 = T(0.38268343236508977173L);
+  static constexpr T h = T(0.70710678118654752440L);
+  alignas(64) static constexpr T v[3][8] = {{1, 0, c1, -s1, h, -h, s1, -c1},
+                                            {1, 0, h, -h, 0, -1, -h, -h},
+                                            {1, 0, s1, -c1, -h, -h, -c1, s1}};
+};
+
+// The 16-point transform of contiguous data with vectors of four complex
+// values: x = 4 s1 + s0 with s0 in the lanes; 4-point transforms across the
+// vectors, twiddles per lane, one 4 x 4 transpose, 4-point transforms
+// across the vectors again, which leaves X[k1 + 4 k0] in vector k0, lane k1.
+template <bool INV, class D, class T>
+void Dft16Contiguous(D d, const T* src, T* dst) {
+  const CxOps<D, 2, INV> o(d);
+  using C = typename CxOps<D, 2, INV>::C;
+  C u[4];
+  for (size_t a = 0; a < 4; ++a) u[a] = o.load(src, nullptr, 4 * a);
+  Dft4(o, u[0], u[1], u[2], u[3]);
+  for (size_t k1 = 1; k1 < 4; ++k1) u[k1] = o.mul(u[k1], C{hn::Load(d, Tw16<T>::v[k1 - 1])});
+  TransposeCx(d, u);
+  Dft4(o, u[0], u[1], u[2], u[3]);
+  for (size_t a = 0; a < 4; ++a) o.store(dst, nullptr, 4 * a, u[a]);
 }
 
 // Natural-order B-point DFT (B = 8 or 16) of y[0..B-1], each lane an
@@ -358,11 +400,14 @@ struct VecPasses : scalar::Passes<T, S> {
   template <bool INV>
   static void lead_t(const T* src, T* dst, size_t n, int leaf, const scalar::BitRev& rev,
                      bool fused) {
-    // 256-bit vectors: two levels of transposes instead of three.
-    const hn::CappedTag<T, 32 / sizeof(T)> dw;
+    // At most four complex values per vector: two levels of transposes.
+    const hn::CappedTag<T, 8> dw;
     const hn::CappedTag<T, 2> d1;  // one complex per vector
     const size_t cnt = n >> (leaf & 1 ? 3 : 4);
-    if (cnt >= hn::Lanes(dw) / 2) {
+    const hn::CappedTag<T, 8> d4;  // four complex values per vector
+    if (fused && n == 16 && hn::Lanes(d4) == 8) {
+      Dft16Contiguous<INV>(d4, src, dst);
+    } else if (cnt >= hn::Lanes(dw) / 2) {
       if (leaf & 1) LeadBlocks<8, INV>(dw, src, dst, n, rev, fused);
       else LeadBlocks<16, INV>(dw, src, dst, n, rev, fused);
     } else {

@@ -33,12 +33,15 @@
 
 namespace kels::kernels {
 
+// Members are left uninitialised: a plan sets the first `levels` steps and
+// nothing reads the others (zeroing the whole plan per call costs more than
+// a small transform).
 template <class T>
 struct FftStep {
-  int order = 0;          // log2 of the length this level transforms
-  int k = 0;              // log2 of the column (outer) length
-  const T* col = nullptr;    // first-level table of order k
-  const T* merge = nullptr;  // merge table of order `order`
+  int order;          // log2 of the length this level transforms
+  int k;              // log2 of the column (outer) length
+  const T* col;       // first-level table of order k
+  const T* merge;     // merge table of order `order`
 };
 
 // Everything a transform needs, resolved from a record.

@@ -107,6 +107,12 @@ KelStatus build_record(const Family& f, void* rec, int order, int flag, int hint
 template <class T>
 kernels::FftPlan<T> plan_of(const Header<T>* h, int corder, bool dbl) {
   kernels::FftPlan<T> p;
+  if (corder <= leaf_max(dbl)) {  // a single leaf: no large-order scheme
+    p.order = p.leaf = corder;
+    p.first = h->template at<T>(h->twiddle);
+    p.rev = h->template at<std::uint32_t>(h->bitrev);
+    return p;
+  }
   const Shape s = shape_of(corder, dbl);
   p.order = corder;
   p.leaf = s.leaf;
