@@ -340,6 +340,74 @@ void LeadBlocks(D d, const T* src, T* dst, size_t n, const scalar::BitRev& rev, 
   }
 }
 
+// Column pass of the stepped scheme for one group of four columns (one
+// vector of four complex values per row), interleaved layout. Row b of the
+// group (data + 2 (4g + M b)) is input rev(b) of the four K-point column
+// transforms; decimation in time gives natural-order outputs, which go back
+// to the rows. The gather with its merge twiddles is fused with the first
+// stages (in-register 8- or 16-point blocks), and the last radix-4 stage
+// writes straight to the rows; the stages between run on the work buffer.
+template <bool INV, class D, class T>
+void ColumnGroup(D d, T* data, size_t M, size_t K, int k, size_t g, const T* merge,
+                 const T* col, T* work) {
+  const CxOps<D, 2, INV> o(d);
+  using C = typename CxOps<D, 2, INV>::C;
+  constexpr size_t kRev16[16] = {0, 8, 4, 12, 2, 10, 6, 14, 1, 9, 5, 13, 3, 11, 7, 15};
+  constexpr size_t kRev8[8] = {0, 4, 2, 6, 1, 5, 3, 7};
+  T* const base = data + 8 * g;
+  const T* const mg = merge + 8 * g * K;
+  const size_t B = (k & 1) ? 8 : 16;
+  // Rows and work groups are 4 complex values wide.
+  auto row = [&](size_t b) { return base + 2 * M * b; };
+  auto grp = [&](size_t b) { return work + 8 * b; };
+  const bool direct = K == B;  // the lead is the whole transform
+  for (size_t b0 = 0; b0 < K; b0 += B) {
+    C y[16];
+    for (size_t p = 0; p < B; ++p) {
+      const size_t b = b0 + p;
+      const C x = o.mul(o.load(row(b), nullptr, 0), o.load(mg + 8 * b, nullptr, 0));
+      y[B == 16 ? kRev16[p] : kRev8[p]] = x;
+    }
+    if (B == 16) DftLanes<16>(o, y);
+    else DftLanes<8>(o, y);
+    for (size_t p = 0; p < B; ++p) o.store(direct ? row(b0 + p) : grp(b0 + p), nullptr, 0, y[p]);
+  }
+  if (direct) return;
+  size_t L = 4 * B;
+  const T* tw = col + stage_offset(k, L);
+  for (;; L *= 4) {
+    const size_t q = L / 4;
+    const bool last = L == K;
+    for (size_t b0 = 0; b0 < K; b0 += L) {
+      for (size_t j = 0; j < q; ++j) {
+        const T* t = tw + 2 * j;
+        const auto w1r = hn::Set(d, t[2 * q]), w1i = hn::Set(d, t[2 * q + 1]);
+        const auto w2r = hn::Set(d, t[0]), w2i = hn::Set(d, t[1]);
+        const auto w3r = hn::Set(d, t[4 * q]), w3i = hn::Set(d, t[4 * q + 1]);
+        const size_t b = b0 + j;
+        C x0 = o.load(grp(b), nullptr, 0);
+        C x1 = o.mul_b(o.load(grp(b + q), nullptr, 0), w1r, w1i);
+        C x2 = o.mul_b(o.load(grp(b + 2 * q), nullptr, 0), w2r, w2i);
+        C x3 = o.mul_b(o.load(grp(b + 3 * q), nullptr, 0), w3r, w3i);
+        Bfly4(o, x0, x1, x2, x3);
+        if (last) {
+          o.store(row(b), nullptr, 0, x0);
+          o.store(row(b + q), nullptr, 0, x1);
+          o.store(row(b + 2 * q), nullptr, 0, x2);
+          o.store(row(b + 3 * q), nullptr, 0, x3);
+        } else {
+          o.store(grp(b), nullptr, 0, x0);
+          o.store(grp(b + q), nullptr, 0, x1);
+          o.store(grp(b + 2 * q), nullptr, 0, x2);
+          o.store(grp(b + 3 * q), nullptr, 0, x3);
+        }
+      }
+    }
+    if (last) break;
+    tw += 2 * (3 * L / 4);
+  }
+}
+
 template <class T, int S>
 struct VecPasses : scalar::Passes<T, S> {
   using Base = scalar::Passes<T, S>;
@@ -587,6 +655,22 @@ struct VecPasses : scalar::Passes<T, S> {
       run(re, n);
       run(im, n);
     }
+  }
+
+  // ---- Whole column pass of a stepped level (interleaved layout, four
+  // complex values per vector); false leaves it to the generic passes.
+  template <bool INV>
+  static void column_pass_t(T* data, size_t M, size_t K, int k, const T* merge, const T* col,
+                            T* work) {
+    const hn::CappedTag<T, 8> d;
+    for (size_t g = 0; g < M / 4; ++g) ColumnGroup<INV>(d, data, M, K, k, g, merge, col, work);
+  }
+  static bool column_pass(T* re, size_t M, size_t K, int k, const T* merge, const T* col, T* work,
+                          bool inv) {
+    if (S != 2 || hn::Lanes(hn::CappedTag<T, 8>()) != 8 || k < 3) return false;
+    if (inv) column_pass_t<true>(re, M, K, k, merge, col, work);
+    else column_pass_t<false>(re, M, K, k, merge, col, work);
+    return true;
   }
 
   // ---- Column pass: group b of the work buffer at work + 8b.

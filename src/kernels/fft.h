@@ -311,6 +311,10 @@ struct Passes {
       }
     }
   }
+  // A whole column pass in one piece: none here (the passes below do it).
+  static bool column_pass(T*, std::size_t, std::size_t, int, const T*, const T*, T*, bool) {
+    return false;
+  }
   // The same passes as above applied to the K groups of the work buffer (four
   // independent columns sharing every twiddle).
   static Cx<T> gld(T* w, std::size_t b, int c) {
@@ -514,6 +518,7 @@ struct Engine {
     const std::size_t K = std::size_t(1) << s.k;
     const std::size_t M = std::size_t(1) << (s.order - s.k);
     for (std::size_t b = 0; b < K; ++b) block(re + S * b * M, im + S * b * M, s.order - s.k, level + 1);
+    if (P::column_pass(re, M, K, s.k, s.merge, s.col, a.work, a.inverse)) return;
     for (std::size_t g = 0; g < M / 4; ++g) {
       P::gather(re, im, M, K, g, s.merge, a.work, a.inverse);
       columns(a.work, s);
