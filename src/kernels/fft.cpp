@@ -19,6 +19,47 @@ namespace hn = hwy::HWY_NAMESPACE;
 
 #if HWY_TARGET != HWY_SCALAR
 
+// Alternating fused multiply-add: FmAddSub gives a*b - c in even lanes and
+// a*b + c in odd lanes, FmSubAdd the opposite signs. SSE4 has no fused form
+// and rounds the product first.
+#if HWY_TARGET == HWY_SSE4
+HWY_INLINE __m128 FmAddSubRaw(__m128 a, __m128 b, __m128 c) { return _mm_addsub_ps(_mm_mul_ps(a, b), c); }
+HWY_INLINE __m128d FmAddSubRaw(__m128d a, __m128d b, __m128d c) { return _mm_addsub_pd(_mm_mul_pd(a, b), c); }
+HWY_INLINE __m128 FmSubAddRaw(__m128 a, __m128 b, __m128 c) {
+  return _mm_addsub_ps(_mm_mul_ps(a, b), _mm_xor_ps(c, _mm_set1_ps(-0.0f)));
+}
+HWY_INLINE __m128d FmSubAddRaw(__m128d a, __m128d b, __m128d c) {
+  return _mm_addsub_pd(_mm_mul_pd(a, b), _mm_xor_pd(c, _mm_set1_pd(-0.0)));
+}
+#else
+HWY_INLINE __m128 FmAddSubRaw(__m128 a, __m128 b, __m128 c) { return _mm_fmaddsub_ps(a, b, c); }
+HWY_INLINE __m128d FmAddSubRaw(__m128d a, __m128d b, __m128d c) { return _mm_fmaddsub_pd(a, b, c); }
+HWY_INLINE __m256 FmAddSubRaw(__m256 a, __m256 b, __m256 c) { return _mm256_fmaddsub_ps(a, b, c); }
+HWY_INLINE __m256d FmAddSubRaw(__m256d a, __m256d b, __m256d c) { return _mm256_fmaddsub_pd(a, b, c); }
+HWY_INLINE __m128 FmSubAddRaw(__m128 a, __m128 b, __m128 c) { return _mm_fmsubadd_ps(a, b, c); }
+HWY_INLINE __m128d FmSubAddRaw(__m128d a, __m128d b, __m128d c) { return _mm_fmsubadd_pd(a, b, c); }
+HWY_INLINE __m256 FmSubAddRaw(__m256 a, __m256 b, __m256 c) { return _mm256_fmsubadd_ps(a, b, c); }
+HWY_INLINE __m256d FmSubAddRaw(__m256d a, __m256d b, __m256d c) { return _mm256_fmsubadd_pd(a, b, c); }
+#if HWY_TARGET == HWY_AVX3
+HWY_INLINE __m512 FmAddSubRaw(__m512 a, __m512 b, __m512 c) { return _mm512_fmaddsub_ps(a, b, c); }
+HWY_INLINE __m512d FmAddSubRaw(__m512d a, __m512d b, __m512d c) { return _mm512_fmaddsub_pd(a, b, c); }
+HWY_INLINE __m512 FmSubAddRaw(__m512 a, __m512 b, __m512 c) { return _mm512_fmsubadd_ps(a, b, c); }
+HWY_INLINE __m512d FmSubAddRaw(__m512d a, __m512d b, __m512d c) { return _mm512_fmsubadd_pd(a, b, c); }
+#endif
+#endif
+template <class V>
+HWY_INLINE V FmAddSub(V a, V b, V c) {
+  V r;
+  r.raw = FmAddSubRaw(a.raw, b.raw, c.raw);
+  return r;
+}
+template <class V>
+HWY_INLINE V FmSubAdd(V a, V b, V c) {
+  V r;
+  r.raw = FmSubAddRaw(a.raw, b.raw, c.raw);
+  return r;
+}
+
 // Complex arithmetic on vectors of layout S. Interleaved vectors hold
 // (re, im) pairs; split "vectors" are a pair of re and im vectors.
 template <class D, int S, bool INV>
@@ -33,20 +74,57 @@ struct CxOps<D, 2, INV> {
   };
   D d;
   V nj;  // multiplier turning Reverse2(a) into -i*a (forward) or +i*a
+  V one;
   explicit CxOps(D dd)
-      : d(dd), nj(INV ? hn::OddEven(hn::Set(dd, T(1)), hn::Set(dd, T(-1)))
-                      : hn::OddEven(hn::Set(dd, T(-1)), hn::Set(dd, T(1)))) {}
+      : d(dd),
+        nj(INV ? hn::OddEven(hn::Set(dd, T(1)), hn::Set(dd, T(-1)))
+               : hn::OddEven(hn::Set(dd, T(-1)), hn::Set(dd, T(1)))),
+        one(hn::Set(dd, T(1))) {}
   static constexpr size_t kStride = 2;
   C load(const T* re, const T*, size_t i) const { return {hn::LoadU(d, re + 2 * i)}; }
   void store(T* re, T*, size_t i, C c) const { hn::StoreU(c.v, d, re + 2 * i); }
   C add(C a, C b) const { return {hn::Add(a.v, b.v)}; }
   C sub(C a, C b) const { return {hn::Sub(a.v, b.v)}; }
   C rot(C a) const { return {hn::Mul(hn::Reverse2(d, a.v), nj)}; }
+  // plus = t + rot(x), minus = t - rot(x): one swap and two alternating
+  // adds (the products by one are exact).
+  void add_rot(C t, C x, C& plus, C& minus) const {
+    const V sx = hn::Reverse2(d, x.v);
+    plus.v = INV ? FmAddSub(t.v, one, sx) : FmSubAdd(t.v, one, sx);
+    minus.v = INV ? FmSubAdd(t.v, one, sx) : FmAddSub(t.v, one, sx);
+  }
   // a * w (a * conj(w) inverse) with per-lane twiddles w in the same layout.
   C mul(C a, C w) const { return mul_b(a, hn::DupEven(w.v), hn::DupOdd(w.v)); }
+  // Twiddles w[i].. read from memory as duplicated real and imaginary parts
+  // (single precision duplicates them in the loads, which needs no shuffle).
+  struct Tw {
+    V r, i;
+  };
+  Tw tw_at(const T* w, const T*, size_t i) const {
+    const V x = hn::LoadU(d, w + 2 * i);
+#if HWY_TARGET != HWY_SSE4
+    if constexpr (sizeof(T) == 4 && sizeof(T) * hn::MaxLanes(D()) == 32) {
+      Tw t;
+      t.r.raw = _mm256_moveldup_ps(x.raw);
+      t.i.raw = _mm256_movehdup_ps(x.raw);
+      return t;
+    }
+#if HWY_TARGET == HWY_AVX3
+    if constexpr (sizeof(T) == 4 && sizeof(T) * hn::MaxLanes(D()) == 64) {
+      Tw t;
+      t.r.raw = _mm512_moveldup_ps(x.raw);
+      t.i.raw = _mm512_movehdup_ps(x.raw);
+      return t;
+    }
+#endif
+#endif
+    return {hn::DupEven(x), hn::DupOdd(x)};
+  }
+  C mul_w(C a, const Tw& w) const { return mul_b(a, w.r, w.i); }
   // a * w with w given as broadcast real and imaginary parts.
   C mul_b(C a, V wr, V wi) const {
-    return {hn::NegMulAdd(rot(a).v, wi, hn::Mul(a.v, wr))};
+    const V t = hn::Mul(hn::Reverse2(d, a.v), wi);
+    return {INV ? FmSubAdd(a.v, wr, t) : FmAddSub(a.v, wr, t)};
   }
   C scale(C a, V s) const { return {hn::Mul(a.v, s)}; }
 };
@@ -70,6 +148,16 @@ struct CxOps<D, 1, INV> {
   C sub(C a, C b) const { return {hn::Sub(a.r, b.r), hn::Sub(a.i, b.i)}; }
   C rot(C a) const { return INV ? C{hn::Neg(a.i), a.r} : C{a.i, hn::Neg(a.r)}; }
   C mul(C a, C w) const { return mul_b(a, w.r, w.i); }
+  struct Tw {
+    V r, i;
+  };
+  Tw tw_at(const T* w, const T* wi, size_t i) const { return {hn::LoadU(d, w + i), hn::LoadU(d, wi + i)}; }
+  C mul_w(C a, const Tw& w) const { return mul_b(a, w.r, w.i); }
+  void add_rot(C t, C x, C& plus, C& minus) const {
+    const C r = rot(x);
+    plus = add(t, r);
+    minus = sub(t, r);
+  }
   C mul_b(C a, V wr, V wi) const {
     if (INV) {
       return {hn::MulAdd(a.i, wi, hn::Mul(a.r, wr)), hn::NegMulAdd(a.r, wi, hn::Mul(a.i, wr))};
@@ -82,11 +170,10 @@ struct CxOps<D, 1, INV> {
 template <class O, class C>
 HWY_INLINE void Bfly4(const O& o, C& x0, C& x1, C& x2, C& x3) {
   const C t0 = o.add(x0, x1), t1 = o.sub(x0, x1);
-  const C t2 = o.add(x2, x3), t3 = o.rot(o.sub(x2, x3));
+  const C t2 = o.add(x2, x3);
+  o.add_rot(t1, o.sub(x2, x3), x1, x3);
   x0 = o.add(t0, t2);
   x2 = o.sub(t0, t2);
-  x1 = o.add(t1, t3);
-  x3 = o.sub(t1, t3);
 }
 
 template <int S, bool INV, class D, class T>
@@ -99,9 +186,9 @@ void Radix4Rows(D d, T* HWY_RESTRICT re, T* HWY_RESTRICT im, size_t n, size_t L,
     for (size_t j = 0; j < q; j += step) {
       const size_t i = b + j;
       auto x0 = o.load(re, im, i);
-      auto x1 = o.mul(o.load(re, im, i + q), o.load(tw, twi, q + j));
-      auto x2 = o.mul(o.load(re, im, i + 2 * q), o.load(tw, twi, j));
-      auto x3 = o.mul(o.load(re, im, i + 3 * q), o.load(tw, twi, 2 * q + j));
+      auto x1 = o.mul_w(o.load(re, im, i + q), o.tw_at(tw, twi, q + j));
+      auto x2 = o.mul_w(o.load(re, im, i + 2 * q), o.tw_at(tw, twi, j));
+      auto x3 = o.mul_w(o.load(re, im, i + 3 * q), o.tw_at(tw, twi, 2 * q + j));
       Bfly4(o, x0, x1, x2, x3);
       o.store(re, im, i, x0);
       o.store(re, im, i + q, x1);
@@ -127,7 +214,7 @@ void Radix4x2Rows(D d, T* HWY_RESTRICT re, T* HWY_RESTRICT im, size_t n, size_t 
     for (size_t j = 0; j < q; j += step) {
       const size_t i = b + j;
       C x[16];
-      const C w1 = o.load(tw, twi, q + j), w2 = o.load(tw, twi, j), w3 = o.load(tw, twi, 2 * q + j);
+      const auto w1 = o.tw_at(tw, twi, q + j), w2 = o.tw_at(tw, twi, j), w3 = o.tw_at(tw, twi, 2 * q + j);
       for (size_t g = 0; g < 4; ++g) {
         C& a0 = x[4 * g];
         C& a1 = x[4 * g + 1];
@@ -135,17 +222,17 @@ void Radix4x2Rows(D d, T* HWY_RESTRICT re, T* HWY_RESTRICT im, size_t n, size_t 
         C& a3 = x[4 * g + 3];
         const size_t e = i + g * L;
         a0 = o.load(re, im, e);
-        a1 = o.mul(o.load(re, im, e + q), w1);
-        a2 = o.mul(o.load(re, im, e + 2 * q), w2);
-        a3 = o.mul(o.load(re, im, e + 3 * q), w3);
+        a1 = o.mul_w(o.load(re, im, e + q), w1);
+        a2 = o.mul_w(o.load(re, im, e + 2 * q), w2);
+        a3 = o.mul_w(o.load(re, im, e + 3 * q), w3);
         Bfly4(o, a0, a1, a2, a3);
       }
       for (size_t g = 0; g < 4; ++g) {
         const size_t jj = j + g * q;
         C a0 = x[g];
-        C a1 = o.mul(x[g + 4], o.load(tw4, tw4i, L + jj));
-        C a2 = o.mul(x[g + 8], o.load(tw4, tw4i, jj));
-        C a3 = o.mul(x[g + 12], o.load(tw4, tw4i, 2 * L + jj));
+        C a1 = o.mul_w(x[g + 4], o.tw_at(tw4, tw4i, L + jj));
+        C a2 = o.mul_w(x[g + 8], o.tw_at(tw4, tw4i, jj));
+        C a3 = o.mul_w(x[g + 12], o.tw_at(tw4, tw4i, 2 * L + jj));
         Bfly4(o, a0, a1, a2, a3);
         const size_t e = i + g * q;
         o.store(re, im, e, a0);
@@ -156,6 +243,10 @@ void Radix4x2Rows(D d, T* HWY_RESTRICT re, T* HWY_RESTRICT im, size_t n, size_t 
     }
   }
 }
+
+// Bit reversal of 3 and 4 bits.
+constexpr size_t kRev8[8] = {0, 4, 2, 6, 1, 5, 3, 7};
+constexpr size_t kRev16[16] = {0, 8, 4, 12, 2, 10, 6, 14, 1, 9, 5, 13, 3, 11, 7, 15};
 
 // Transposes V x V complex values held in V vectors of V complex each:
 // afterwards v[j] lane i holds what v[i] lane j held.
@@ -313,8 +404,6 @@ void LeadBlocks(D d, const T* src, T* dst, size_t n, const scalar::BitRev& rev, 
   using C = typename CxOps<D, 2, INV>::C;
   const size_t V = hn::Lanes(d) / 2;
   const size_t cnt = n / B;
-  constexpr size_t kRev16[16] = {0, 8, 4, 12, 2, 10, 6, 14, 1, 9, 5, 13, 3, 11, 7, 15};
-  constexpr size_t kRev8[8] = {0, 4, 2, 6, 1, 5, 3, 7};
   size_t base[4];
   for (size_t r = 0; r < cnt; r += V) {
     C y[B];
@@ -347,29 +436,27 @@ void LeadBlocks(D d, const T* src, T* dst, size_t n, const scalar::BitRev& rev, 
 // to the rows. The gather with its merge twiddles is fused with the first
 // stages (in-register 8- or 16-point blocks), and the last radix-4 stage
 // writes straight to the rows; the stages between run on the work buffer.
-template <bool INV, class D, class T>
+template <size_t B, bool INV, class D, class T>
 void ColumnGroup(D d, T* data, size_t M, size_t K, int k, size_t g, const T* merge,
                  const T* col, T* work) {
   const CxOps<D, 2, INV> o(d);
   using C = typename CxOps<D, 2, INV>::C;
-  constexpr size_t kRev16[16] = {0, 8, 4, 12, 2, 10, 6, 14, 1, 9, 5, 13, 3, 11, 7, 15};
-  constexpr size_t kRev8[8] = {0, 4, 2, 6, 1, 5, 3, 7};
   T* const base = data + 8 * g;
   const T* const mg = merge + 8 * g * K;
-  const size_t B = (k & 1) ? 8 : 16;
   // Rows and work groups are 4 complex values wide.
   auto row = [&](size_t b) { return base + 2 * M * b; };
   auto grp = [&](size_t b) { return work + 8 * b; };
   const bool direct = K == B;  // the lead is the whole transform
   for (size_t b0 = 0; b0 < K; b0 += B) {
-    C y[16];
+    C y[B];
+    HWY_UNROLL(1)
     for (size_t p = 0; p < B; ++p) {
       const size_t b = b0 + p;
-      const C x = o.mul(o.load(row(b), nullptr, 0), o.load(mg + 8 * b, nullptr, 0));
+      const C x = o.mul_w(o.load(row(b), nullptr, 0), o.tw_at(mg + 8 * b, nullptr, 0));
       y[B == 16 ? kRev16[p] : kRev8[p]] = x;
     }
-    if (B == 16) DftLanes<16>(o, y);
-    else DftLanes<8>(o, y);
+    DftLanes<B>(o, y);
+    HWY_UNROLL(1)
     for (size_t p = 0; p < B; ++p) o.store(direct ? row(b0 + p) : grp(b0 + p), nullptr, 0, y[p]);
   }
   if (direct) return;
@@ -663,7 +750,10 @@ struct VecPasses : scalar::Passes<T, S> {
   static void column_pass_t(T* data, size_t M, size_t K, int k, const T* merge, const T* col,
                             T* work) {
     const hn::CappedTag<T, 8> d;
-    for (size_t g = 0; g < M / 4; ++g) ColumnGroup<INV>(d, data, M, K, k, g, merge, col, work);
+    for (size_t g = 0; g < M / 4; ++g) {
+      if (k & 1) ColumnGroup<8, INV>(d, data, M, K, k, g, merge, col, work);
+      else ColumnGroup<16, INV>(d, data, M, K, k, g, merge, col, work);
+    }
   }
   static bool column_pass(T* re, size_t M, size_t K, int k, const T* merge, const T* col, T* work,
                           bool inv) {
