@@ -727,6 +727,66 @@ struct VecPasses : scalar::Passes<T, S> {
     }
   }
 
+  // Twiddles tab[2q], tab[2q + 2], ... of interleaved double precision (one
+  // complex per 128-bit unit).
+  template <class D>
+  static bool load_even_units(D d, const T* tab, size_t q, hn::Vec<D>& out) {
+    (void)d;
+    (void)tab;
+    (void)q;
+    (void)out;
+#if HWY_TARGET != HWY_SSE4
+    if constexpr (sizeof(T) == 8 && sizeof(T) * hn::MaxLanes(D()) == 32) {
+      const __m256d lo = _mm256_loadu_pd(tab + 4 * q), hi = _mm256_loadu_pd(tab + 4 * q + 4);
+      out.raw = _mm256_permute2f128_pd(lo, hi, 0x20);
+      return true;
+    }
+#if HWY_TARGET == HWY_AVX3
+    if constexpr (sizeof(T) == 8 && sizeof(T) * hn::MaxLanes(D()) == 64) {
+      const __m512d lo = _mm512_loadu_pd(tab + 4 * q), hi = _mm512_loadu_pd(tab + 4 * q + 8);
+      out.raw = _mm512_shuffle_f64x2(lo, hi, _MM_SHUFFLE(2, 0, 2, 0));
+      return true;
+    }
+#endif
+#endif
+    return false;
+  }
+
+  template <bool INV, class D>
+  static size_t combine4_t(D d, T* re, T* im, size_t Q, const T* tab, size_t c) {
+    const CxOps<D, S, INV> o(d);
+    using C = typename CxOps<D, S, INV>::C;
+    const size_t step = hn::Lanes(d) / S;
+    const T* tabi = scalar::block_im<T, S>(tab, c);
+    size_t q = 0;
+    for (; q + step <= Q; q += step) {
+      C w1;
+      if constexpr (S == 2 && sizeof(T) == 8) {
+        if (hn::Lanes(d) == 2) w1 = o.load(tab, tabi, 2 * q);
+        else if (!load_even_units(d, tab, q, w1.v)) return q;
+      } else {
+        w1 = load_tw(d, o, tab, tabi, q, 2);
+      }
+      const auto w = o.tw_at(tab, tabi, q);
+      const C a0 = o.load(re, im, q), b = o.mul(o.load(re, im, q + Q), w1);
+      const C c0 = o.load(re, im, q + 2 * Q), e = o.mul(o.load(re, im, q + 3 * Q), w1);
+      const C e1 = o.add(a0, b), e2 = o.sub(a0, b);
+      const C f1 = o.mul_w(o.add(c0, e), w), g2 = o.mul_w(o.sub(c0, e), w);
+      C x1, x3;
+      o.add_rot(e2, g2, x1, x3);
+      o.store(re, im, q, o.add(e1, f1));
+      o.store(re, im, q + 2 * Q, o.sub(e1, f1));
+      o.store(re, im, q + Q, x1);
+      o.store(re, im, q + 3 * Q, x3);
+    }
+    return q;
+  }
+  static void combine4(T* re, T* im, size_t Q, const T* tab, size_t c, bool inv) {
+    const hn::ScalableTag<T> d;
+    const size_t done = inv ? combine4_t<true>(d, re, im, Q, tab, c) : combine4_t<false>(d, re, im, Q, tab, c);
+    Base::combine4(re, im, Q, tab, c, inv, done);
+  }
+
   static void scale(T* re, T* im, size_t n, T s) {
     const hn::ScalableTag<T> d;
     const size_t NL = hn::Lanes(d);

@@ -265,6 +265,25 @@ struct Passes {
     radix4_range(re, im, n, 4 * L, tw4, inv, 0);
   }
 
+  // Two radix-2 combines in one pass: the four transformed quarters A, B, C,
+  // D of Q elements form the halves E = (A, B) and F = (C, D) with the
+  // twiddles tab[2q], then the whole with tab[q] (w^(q+Q) = -i w^q).
+  static void combine4(T* re, T* im, std::size_t Q, const T* tab, std::size_t c, bool inv,
+                       std::size_t q0 = 0) {
+    const T* tabi = block_im<T, S>(tab, c);
+    for (std::size_t q = q0; q < Q; ++q) {
+      const Cx<T> w1 = ld<T, S>(tab, tabi, 2 * q), w = ld<T, S>(tab, tabi, q);
+      const Cx<T> a0 = ld<T, S>(re, im, q), b = mul(ld<T, S>(re, im, q + Q), w1, inv);
+      const Cx<T> c0 = ld<T, S>(re, im, q + 2 * Q), e = mul(ld<T, S>(re, im, q + 3 * Q), w1, inv);
+      const Cx<T> e1 = add(a0, b), e2 = sub(a0, b);
+      const Cx<T> f1 = mul(add(c0, e), w, inv), f2 = rot(mul(sub(c0, e), w, inv), inv);
+      st<T, S>(re, im, q, add(e1, f1));
+      st<T, S>(re, im, q + 2 * Q, sub(e1, f1));
+      st<T, S>(re, im, q + Q, add(e2, f2));
+      st<T, S>(re, im, q + 3 * Q, sub(e2, f2));
+    }
+  }
+
   // Radix-2 combine of two transformed halves of h elements each with the
   // twiddles tab[q * stride] of a second-level block of c entries.
   static void combine2(T* re, T* im, std::size_t h, const T* tab, std::size_t c,
@@ -486,6 +505,11 @@ struct Engine {
   void block(T* re, T* im, int n, int level) {
     if (level < p.levels && level < 3 && p.step[level].order == n) {
       stepped(re, im, level);
+    } else if (n == p.two_level && n >= p.leaf + 2) {
+      // The top two levels of the halving in one pass over the block.
+      const std::size_t Q = std::size_t(1) << (n - 2);
+      for (std::size_t i = 0; i < 4; ++i) block(re + S * i * Q, im + S * i * Q, n - 2, 3);
+      P::combine4(re, im, Q, p.second, std::size_t(1) << (p.two_level - 1), a.inverse);
     } else if (n > p.leaf) {
       const std::size_t h = std::size_t(1) << (n - 1);
       block(re, im, n - 1, 3);
