@@ -121,6 +121,7 @@ struct CxOps<D, 2, INV> {
     return {hn::DupEven(x), hn::DupOdd(x)};
   }
   C mul_w(C a, const Tw& w) const { return mul_b(a, w.r, w.i); }
+  Tw mul_tw_vec(V w) const { return {hn::DupEven(w), hn::DupOdd(w)}; }
   // a * w with w given as broadcast real and imaginary parts.
   C mul_b(C a, V wr, V wi) const {
     const V t = hn::Mul(hn::Reverse2(d, a.v), wi);
@@ -441,18 +442,27 @@ void ColumnGroup(D d, T* data, size_t M, size_t K, int k, size_t g, const T* mer
                  const T* col, T* work) {
   const CxOps<D, 2, INV> o(d);
   using C = typename CxOps<D, 2, INV>::C;
-  T* const base = data + 8 * g;
-  const T* const mg = merge + 8 * g * K;
-  // Rows and work groups are 4 complex values wide.
+  // W = 4 or 8 columns per vector; the merge table has blocks of four.
+  const size_t W = hn::Lanes(d) / 2;
+  T* const base = data + 2 * W * g;
+  const T* const mg = merge + 8 * (W / 4) * g * K;
   auto row = [&](size_t b) { return base + 2 * M * b; };
-  auto grp = [&](size_t b) { return work + 8 * b; };
+  auto grp = [&](size_t b) { return work + 2 * W * b; };
+  auto merge_tw = [&](size_t b) {
+    if constexpr (hn::MaxLanes(D()) * sizeof(T) == 64 && sizeof(T) == 4) {
+      const hn::Half<D> dh;
+      return o.mul_tw_vec(hn::Combine(d, hn::LoadU(dh, mg + 8 * (K + b)), hn::LoadU(dh, mg + 8 * b)));
+    } else {
+      return o.tw_at(mg + 8 * b, nullptr, 0);
+    }
+  };
   const bool direct = K == B;  // the lead is the whole transform
   for (size_t b0 = 0; b0 < K; b0 += B) {
     C y[B];
     HWY_UNROLL(1)
     for (size_t p = 0; p < B; ++p) {
       const size_t b = b0 + p;
-      const C x = o.mul_w(o.load(row(b), nullptr, 0), o.tw_at(mg + 8 * b, nullptr, 0));
+      const C x = o.mul_w(o.load(row(b), nullptr, 0), merge_tw(b));
       y[B == 16 ? kRev16[p] : kRev8[p]] = x;
     }
     DftLanes<B>(o, y);
@@ -809,6 +819,20 @@ struct VecPasses : scalar::Passes<T, S> {
   template <bool INV>
   static void column_pass_t(T* data, size_t M, size_t K, int k, const T* merge, const T* col,
                             T* work) {
+    // Single precision processes eight columns (whole 64-byte row pieces)
+    // when the target has 512-bit vectors and eight columns of K elements
+    // fit a small scratch area: with four, the two halves of every row line
+    // are fetched twice, since rows a power of two apart evict each other.
+    constexpr size_t kScratch = 2048;  // complex values
+    const hn::CappedTag<T, 16> d8;
+    if (sizeof(T) == 4 && hn::Lanes(d8) == 16 && 8 * K <= kScratch) {
+      HWY_ALIGN T scratch[2 * kScratch];
+      for (size_t g = 0; g < M / 8; ++g) {
+        if (k & 1) ColumnGroup<8, INV>(d8, data, M, K, k, g, merge, col, scratch);
+        else ColumnGroup<16, INV>(d8, data, M, K, k, g, merge, col, scratch);
+      }
+      return;
+    }
     const hn::CappedTag<T, 8> d;
     for (size_t g = 0; g < M / 4; ++g) {
       if (k & 1) ColumnGroup<8, INV>(d, data, M, K, k, g, merge, col, work);
