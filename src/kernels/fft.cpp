@@ -390,6 +390,31 @@ HWY_INLINE void DftLanes(const O& o, C* y) {
   }
 }
 
+// Transforms of N = 4B points (B = 8 or 16) in registers, vectors of four
+// complex values: x = 4 s + r with r in the lanes; B-point transforms across
+// the vectors, 4 x 4 transposes that bring r across the vectors, twiddles
+// w_N^(r k) from the record's stage table of length N (its three blocks
+// w^k, w^2k, w^3k, k < B), and 4-point transforms across the vectors:
+// X[k + B k0] lands in vector k0 of the transposed group of k.
+template <size_t B, bool INV, class D, class T>
+void SmallFour(D d, const T* src, T* dst, const T* stage) {
+  const CxOps<D, 2, INV> o(d);
+  using C = typename CxOps<D, 2, INV>::C;
+  C y[B];
+  for (size_t s = 0; s < B; ++s) y[s] = o.load(src, nullptr, 4 * s);
+  DftLanes<B>(o, y);
+  for (size_t a = 0; a < B; a += 4) {
+    C u[4] = {y[a], y[a + 1], y[a + 2], y[a + 3]};
+    TransposeCx(d, u);
+    u[1] = o.mul_w(u[1], o.tw_at(stage, nullptr, a));
+    u[2] = o.mul_w(u[2], o.tw_at(stage, nullptr, B + a));
+    u[3] = o.mul_w(u[3], o.tw_at(stage, nullptr, 2 * B + a));
+    Dft4(o, u[0], u[1], u[2], u[3]);
+    for (size_t k0 = 0; k0 < 4; ++k0) o.store(dst, nullptr, B * k0 + a, u[k0]);
+  }
+}
+
+
 // First pass of the interleaved engine on blocks of B = 16 (even leaf
 // orders) or 8 points: the first two radix-4 stages (radix-2 and radix-4
 // for B = 8) as one in-register B-point transform. Lanes run over V
@@ -562,30 +587,34 @@ struct VecPasses : scalar::Passes<T, S> {
   }
 
   // ---- First pass: B-point blocks in registers (interleaved layout).
+  // Returns the block length transformed (n when the whole transform is done).
   template <bool INV>
-  static void lead_t(const T* src, T* dst, size_t n, int leaf, const scalar::BitRev& rev,
-                     bool fused) {
-    // At most four complex values per vector: two levels of transposes.
-    const hn::CappedTag<T, 8> dw;
+  static size_t lead_t(const T* src, T* dst, size_t n, int leaf, const scalar::BitRev& rev,
+                       bool fused, const T* first) {
+    const hn::CappedTag<T, 8> d4;  // up to four complex values per vector
     const hn::CappedTag<T, 2> d1;  // one complex per vector
+    const bool four = hn::Lanes(d4) == 8;
+    if (fused && four && n <= 64) {
+      if (n == 16) Dft16Contiguous<INV>(d4, src, dst);
+      else if (n == 32) SmallFour<8, INV>(d4, src, dst, first + stage_offset(5, 32));
+      else SmallFour<16, INV>(d4, src, dst, first + stage_offset(6, 64));
+      return n;
+    }
     const size_t cnt = n >> (leaf & 1 ? 3 : 4);
-    const hn::CappedTag<T, 8> d4;  // four complex values per vector
-    if (fused && n == 16 && hn::Lanes(d4) == 8) {
-      Dft16Contiguous<INV>(d4, src, dst);
-    } else if (cnt >= hn::Lanes(dw) / 2) {
-      if (leaf & 1) LeadBlocks<8, INV>(dw, src, dst, n, rev, fused);
-      else LeadBlocks<16, INV>(dw, src, dst, n, rev, fused);
+    if (cnt >= hn::Lanes(d4) / 2) {
+      if (leaf & 1) LeadBlocks<8, INV>(d4, src, dst, n, rev, fused);
+      else LeadBlocks<16, INV>(d4, src, dst, n, rev, fused);
     } else {
       if (leaf & 1) LeadBlocks<8, INV>(d1, src, dst, n, rev, fused);
       else LeadBlocks<16, INV>(d1, src, dst, n, rev, fused);
     }
+    return leaf & 1 ? 8 : 16;
   }
   static size_t lead(const T* sre, const T* sim, T* dre, T* dim, size_t n, int leaf,
-                     const scalar::BitRev& rev, bool fused, bool inv) {
-    if (S != 2) return Base::lead(sre, sim, dre, dim, n, leaf, rev, fused, inv);
-    if (inv) lead_t<true>(sre, dre, n, leaf, rev, fused);
-    else lead_t<false>(sre, dre, n, leaf, rev, fused);
-    return leaf & 1 ? 8 : 16;
+                     const scalar::BitRev& rev, bool fused, bool inv, const T* first) {
+    if (S != 2) return Base::lead(sre, sim, dre, dim, n, leaf, rev, fused, inv, first);
+    return inv ? lead_t<true>(sre, dre, n, leaf, rev, fused, first)
+               : lead_t<false>(sre, dre, n, leaf, rev, fused, first);
   }
 
   // ---- First pass fused with the permutation (interleaved layout). Lane i

@@ -223,7 +223,7 @@ struct Passes {
   // permutation when the data are read from a separate source, else on the
   // permuted destination. Returns the block length transformed.
   static std::size_t lead(const T* sre, const T* sim, T* dre, T* dim, std::size_t n, int leaf,
-                          const BitRev& rev, bool fused, bool inv) {
+                          const BitRev& rev, bool fused, bool inv, const T* /*first*/) {
     if (leaf & 1) {
       if (fused) first2_fused(sre, sim, dre, dim, n, rev);
       else radix2(dre, dim, n);
@@ -475,7 +475,7 @@ struct Engine {
         permute(si, a.dst_im, p.order);
       }
     }
-    lead_ = P::lead(sr, si, a.dst_re, a.dst_im, n, p.leaf, rev, fused, a.inverse);
+    lead_ = P::lead(sr, si, a.dst_re, a.dst_im, n, p.leaf, rev, fused, a.inverse, p.first);
     block(a.dst_re, a.dst_im, p.order, 0);
   }
 
