@@ -1001,6 +1001,18 @@ void Run(const FftPlan<T>& p, const FftArgs<T>& a) {
   scalar::Engine<T, S, VecPasses<T, S>>{p, a}.run();
 }
 
+template <class T>
+bool SmallInterleaved(const T* src, T* dst, int order, const T* first, bool inv, bool scaled,
+                      T scale) {
+  const hn::CappedTag<T, 8> d4;
+  if (hn::Lanes(d4) != 8 || order < 4 || order > 6) return false;
+  const size_t n = size_t(1) << order;
+  VecPasses<T, 2>::lead(src, nullptr, dst, nullptr, n, order, scalar::BitRev(nullptr, 0), true,
+                        inv, first);
+  if (scaled) VecPasses<T, 2>::scale(dst, nullptr, n, scale);
+  return true;
+}
+
 // d = a * b (or a * conj(b)) for `pairs` interleaved complex values; d may
 // equal a or b.
 template <bool CONJ, class T>
@@ -1020,6 +1032,11 @@ void MulPairsT(const T* a, const T* b, T* d, size_t pairs) {
 }
 
 #else  // HWY_SCALAR: the portable twin
+
+template <class T>
+bool SmallInterleaved(const T*, T*, int, const T*, bool, bool, T) {
+  return false;
+}
 
 template <bool CONJ, class T>
 void MulPairsT(const T* a, const T* b, T* d, size_t pairs) {
@@ -1043,6 +1060,15 @@ void MulPairsF64(const double* a, const double* b, double* d, size_t n, bool con
   else MulPairsT<false>(a, b, d, n);
 }
 
+bool SmallInterleavedF32(const float* src, float* dst, int order, const float* first, bool inv,
+                         bool scaled, float scale) {
+  return SmallInterleaved(src, dst, order, first, inv, scaled, scale);
+}
+bool SmallInterleavedF64(const double* src, double* dst, int order, const double* first, bool inv,
+                         bool scaled, double scale) {
+  return SmallInterleaved(src, dst, order, first, inv, scaled, scale);
+}
+
 void FftInterleavedF32(const FftPlan<float>& p, const FftArgs<float>& a) { Run<float, 2>(p, a); }
 void FftInterleavedF64(const FftPlan<double>& p, const FftArgs<double>& a) { Run<double, 2>(p, a); }
 void FftSplitF32(const FftPlan<float>& p, const FftArgs<float>& a) { Run<float, 1>(p, a); }
@@ -1055,6 +1081,8 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace kels::kernels {
 
+HWY_EXPORT(SmallInterleavedF32);
+HWY_EXPORT(SmallInterleavedF64);
 HWY_EXPORT(FftInterleavedF32);
 HWY_EXPORT(FftInterleavedF64);
 HWY_EXPORT(FftSplitF32);
@@ -1067,6 +1095,15 @@ void mul_pairs(const float* a, const float* b, float* d, std::size_t n, bool con
 }
 void mul_pairs(const double* a, const double* b, double* d, std::size_t n, bool conj) {
   HWY_DYNAMIC_DISPATCH(MulPairsF64)(a, b, d, n, conj);
+}
+
+bool fft_small_interleaved(const float* src, float* dst, int order, const float* first, bool inv,
+                           bool scaled, float scale) {
+  return HWY_DYNAMIC_DISPATCH(SmallInterleavedF32)(src, dst, order, first, inv, scaled, scale);
+}
+bool fft_small_interleaved(const double* src, double* dst, int order, const double* first,
+                           bool inv, bool scaled, double scale) {
+  return HWY_DYNAMIC_DISPATCH(SmallInterleavedF64)(src, dst, order, first, inv, scaled, scale);
 }
 
 void fft_interleaved(const FftPlan<float>& p, const FftArgs<float>& a) {

@@ -75,6 +75,15 @@ void fft_interleaved(const FftPlan<double>& p, const FftArgs<double>& a);
 void fft_split(const FftPlan<float>& p, const FftArgs<float>& a);
 void fft_split(const FftPlan<double>& p, const FftArgs<double>& a);
 
+// Out-of-place interleaved transforms of 16, 32 and 64 points straight from
+// the first-level table of their record, scaled when `scaled`. Returns false
+// (nothing written) when the target has no kernel for them; the engine then
+// runs instead.
+bool fft_small_interleaved(const float* src, float* dst, int order, const float* first, bool inv,
+                           bool scaled, float scale);
+bool fft_small_interleaved(const double* src, double* dst, int order, const double* first,
+                           bool inv, bool scaled, double scale);
+
 // d[i] = a[i] * b[i] (a[i] * conj(b[i]) when conj) for n interleaved complex
 // values; d may equal a or b. Used by the packed-spectrum products.
 void mul_pairs(const float* a, const float* b, float* d, std::size_t n, bool conj);

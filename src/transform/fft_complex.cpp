@@ -55,6 +55,13 @@ KelStatus transform(const void* spec, std::uint32_t id, const Data<T>& d, Kel8u*
     small_transform<T, S>(h->order, d, inv, scaled, h->scale());
     return kelStsOk;
   }
+  // Short interleaved transforms out of place with a caller buffer need no
+  // work area and no plan.
+  if (S == 2 && h->order <= 6 && buf != nullptr && d.sre != d.dre &&
+      kernels::fft_small_interleaved(d.sre, d.dre, h->order, h->template at<T>(h->twiddle), inv,
+                                     scaled, h->scale())) {
+    return kelStsOk;
+  }
   const WorkArea work(buf, h->work_bytes);
   if (work.failed()) return kelStsNoMemory;
   const kernels::FftPlan<T> plan = plan_of(h, h->order, sizeof(T) == 8);
