@@ -102,23 +102,35 @@ struct CxOps<D, 2, INV> {
   };
   Tw tw_at(const T* w, const T*, size_t i) const {
     const V x = hn::LoadU(d, w + 2 * i);
+    constexpr size_t kBytes = sizeof(T) * hn::MaxLanes(D());
+    Tw t;
 #if HWY_TARGET != HWY_SSE4
-    if constexpr (sizeof(T) == 4 && sizeof(T) * hn::MaxLanes(D()) == 32) {
-      Tw t;
+    if constexpr (sizeof(T) == 4 && kBytes == 32) {
       t.r.raw = _mm256_moveldup_ps(x.raw);
       t.i.raw = _mm256_movehdup_ps(x.raw);
       return t;
     }
+    if constexpr (sizeof(T) == 8 && kBytes == 32) {
+      t.r.raw = _mm256_movedup_pd(x.raw);
+      t.i.raw = _mm256_permute_pd(x.raw, 0xF);
+      return t;
+    }
 #if HWY_TARGET == HWY_AVX3
-    if constexpr (sizeof(T) == 4 && sizeof(T) * hn::MaxLanes(D()) == 64) {
-      Tw t;
+    if constexpr (sizeof(T) == 4 && kBytes == 64) {
       t.r.raw = _mm512_moveldup_ps(x.raw);
       t.i.raw = _mm512_movehdup_ps(x.raw);
       return t;
     }
+    if constexpr (sizeof(T) == 8 && kBytes == 64) {
+      t.r.raw = _mm512_movedup_pd(x.raw);
+      t.i.raw = _mm512_permute_pd(x.raw, 0xFF);
+      return t;
+    }
 #endif
 #endif
-    return {hn::DupEven(x), hn::DupOdd(x)};
+    t.r = hn::DupEven(x);
+    t.i = hn::DupOdd(x);
+    return t;
   }
   C mul_w(C a, const Tw& w) const { return mul_b(a, w.r, w.i); }
   Tw mul_tw_vec(V w) const { return {hn::DupEven(w), hn::DupOdd(w)}; }
