@@ -855,6 +855,49 @@ struct VecPasses : scalar::Passes<T, S> {
     }
   }
 
+  // ---- Bit-reversal permutation (interleaved, src may equal dst) in tiles
+  // of V x V complex values, V per vector: with p = (a, mid, b), a and b of
+  // t = log2 V bits, dst(a, mid, b) = src(rev b, rev mid, rev a). Loading
+  // the rows of the source tile in bit-reversed order, one transpose leaves
+  // destination row a in vector rev a.
+  template <class D>
+  static void permute_tiles(D d, const T* src, T* dst, int order, const scalar::BitRev& rev) {
+    const CxOps<D, 2, false> o(d);
+    using C = typename CxOps<D, 2, false>::C;
+    const size_t V = hn::Lanes(d) / 2;
+    const int t = V == 4 ? 2 : 1;
+    const size_t row = size_t(1) << (order - t);
+    const size_t nmid = size_t(1) << (order - 2 * t);
+    const size_t rv[4] = {0, V == 4 ? 2u : 1u, 1, 3};
+    auto load = [&](size_t mid, C* v) {
+      for (size_t x = 0; x < V; ++x) v[x] = o.load(src, nullptr, rv[x] * row + (mid << t));
+      TransposeCx(d, v);
+    };
+    auto store = [&](size_t mid, const C* v) {
+      for (size_t a = 0; a < V; ++a) o.store(dst, nullptr, a * row + (mid << t), v[rv[a]]);
+    };
+    for (size_t mid = 0; mid < nmid; ++mid) {
+      const size_t rmid = rev(mid << t) >> t;
+      if (rmid < mid) continue;
+      C v1[4], v2[4];
+      load(rmid, v1);
+      if (rmid == mid) {
+        store(mid, v1);
+      } else {
+        load(mid, v2);
+        store(mid, v1);
+        store(rmid, v2);
+      }
+    }
+  }
+  static bool permute_interleaved(const T* src, T* dst, int order, const scalar::BitRev& rev) {
+    const hn::CappedTag<T, 8> d;
+    const size_t V = hn::Lanes(d) / 2;
+    if (S != 2 || V < 2 || order < 6) return false;
+    permute_tiles(d, src, dst, order, rev);
+    return true;
+  }
+
   // ---- Whole column pass of a stepped level (interleaved layout, four
   // complex values per vector); false leaves it to the generic passes.
   template <bool INV>

@@ -339,6 +339,8 @@ struct Passes {
       }
     }
   }
+  // A vectorised bit-reversal permutation of interleaved data: none here.
+  static bool permute_interleaved(const T*, T*, int, const BitRev&) { return false; }
   // A whole column pass in one piece: none here (the passes below do it).
   static bool column_pass(T*, std::size_t, std::size_t, int, const T*, const T*, T*, bool) {
     return false;
@@ -478,7 +480,9 @@ struct Engine {
     const bool fused = sr != a.dst_re && si != a.dst_im;
     if (!fused) {
       if (S == 2) {
-        permute(reinterpret_cast<const Pair<T>*>(sr), reinterpret_cast<Pair<T>*>(a.dst_re), p.order);
+        if (!P::permute_interleaved(sr, a.dst_re, p.order, rev)) {
+          permute(reinterpret_cast<const Pair<T>*>(sr), reinterpret_cast<Pair<T>*>(a.dst_re), p.order);
+        }
       } else {
         permute(sr, a.dst_re, p.order);
         permute(si, a.dst_im, p.order);
