@@ -467,6 +467,82 @@ void LeadBlocks(D d, const T* src, T* dst, size_t n, const scalar::BitRev& rev, 
   }
 }
 
+// Transposes V x V real values held in V vectors of V lanes (V = 2 or 4).
+template <class D, class V>
+HWY_INLINE void TransposeReal(D d, V* v) {
+  using T = hn::TFromD<D>;
+  constexpr size_t kLanes = hn::MaxLanes(D());
+  if constexpr (kLanes == 2) {
+    const V a = v[0], b = v[1];
+    v[0] = hn::InterleaveLower(d, a, b);
+    v[1] = hn::InterleaveUpper(d, a, b);
+  } else if constexpr (kLanes == 4 && sizeof(T) == 4) {
+    const hn::Repartition<uint64_t, D> du;
+    const auto t0 = hn::BitCast(du, hn::InterleaveLower(d, v[0], v[1]));
+    const auto t1 = hn::BitCast(du, hn::InterleaveUpper(d, v[0], v[1]));
+    const auto t2 = hn::BitCast(du, hn::InterleaveLower(d, v[2], v[3]));
+    const auto t3 = hn::BitCast(du, hn::InterleaveUpper(d, v[2], v[3]));
+    v[0] = hn::BitCast(d, hn::InterleaveLower(du, t0, t2));
+    v[1] = hn::BitCast(d, hn::InterleaveUpper(du, t0, t2));
+    v[2] = hn::BitCast(d, hn::InterleaveLower(du, t1, t3));
+    v[3] = hn::BitCast(d, hn::InterleaveUpper(du, t1, t3));
+  } else if constexpr (kLanes == 4 && sizeof(T) == 8) {
+    // 128-bit blocks: InterleaveLower/Upper pair lanes (0, 2) and (1, 3).
+    const V l01 = hn::InterleaveLower(d, v[0], v[1]), u01 = hn::InterleaveUpper(d, v[0], v[1]);
+    const V l23 = hn::InterleaveLower(d, v[2], v[3]), u23 = hn::InterleaveUpper(d, v[2], v[3]);
+    v[0] = hn::ConcatLowerLower(d, l23, l01);
+    v[1] = hn::ConcatLowerLower(d, u23, u01);
+    v[2] = hn::ConcatUpperUpper(d, l23, l01);
+    v[3] = hn::ConcatUpperUpper(d, u23, u01);
+  }
+}
+
+// The first pass of the split layout: as LeadBlocks, with separate real and
+// imaginary vectors whose lanes run over V consecutive transforms.
+template <size_t B, bool INV, class D, class T>
+void LeadBlocksSplit(D d, const T* sre, const T* sim, T* dre, T* dim, size_t n,
+                     const scalar::BitRev& rev, bool fused) {
+  const CxOps<D, 1, INV> o(d);
+  using C = typename CxOps<D, 1, INV>::C;
+  using V = hn::Vec<D>;
+  const size_t NV = hn::Lanes(d);
+  const size_t cnt = n / B;
+  size_t base[4];
+  for (size_t r = 0; r < cnt; r += NV) {
+    C y[B];
+    if (fused) {
+      for (size_t s = 0; s < B; ++s) y[s] = o.load(sre, sim, r + s * cnt);
+      for (size_t i = 0; i < NV; ++i) base[i] = B * rev(B * (r + i));
+    } else {
+      for (size_t i = 0; i < NV; ++i) base[i] = B * (r + i);
+      for (size_t g = 0; g < B; g += NV) {
+        V ur[4], ui[4];
+        for (size_t i = 0; i < NV; ++i) {
+          ur[i] = hn::LoadU(d, dre + base[i] + g);
+          ui[i] = hn::LoadU(d, dim + base[i] + g);
+        }
+        TransposeReal(d, ur);
+        TransposeReal(d, ui);
+        for (size_t j = 0; j < NV; ++j) y[B == 16 ? kRev16[g + j] : kRev8[g + j]] = C{ur[j], ui[j]};
+      }
+    }
+    DftLanes<B>(o, y);
+    for (size_t g = 0; g < B; g += NV) {
+      V ur[4], ui[4];
+      for (size_t i = 0; i < NV; ++i) {
+        ur[i] = y[g + i].r;
+        ui[i] = y[g + i].i;
+      }
+      TransposeReal(d, ur);
+      TransposeReal(d, ui);
+      for (size_t i = 0; i < NV; ++i) {
+        hn::StoreU(ur[i], d, dre + base[i] + g);
+        hn::StoreU(ui[i], d, dim + base[i] + g);
+      }
+    }
+  }
+}
+
 // Column pass of the stepped scheme for one group of four columns (one
 // vector of four complex values per row), interleaved layout. Row b of the
 // group (data + 2 (4g + M b)) is input rev(b) of the four K-point column
@@ -624,7 +700,20 @@ struct VecPasses : scalar::Passes<T, S> {
   }
   static size_t lead(const T* sre, const T* sim, T* dre, T* dim, size_t n, int leaf,
                      const scalar::BitRev& rev, bool fused, bool inv, const T* first) {
-    if (S != 2) return Base::lead(sre, sim, dre, dim, n, leaf, rev, fused, inv, first);
+    if constexpr (S == 1) {
+      const hn::CappedTag<T, 4> d;
+      if (n / 16 >= hn::Lanes(d) && hn::Lanes(d) >= 2) {
+        if (leaf & 1) {
+          if (inv) LeadBlocksSplit<8, true>(d, sre, sim, dre, dim, n, rev, fused);
+          else LeadBlocksSplit<8, false>(d, sre, sim, dre, dim, n, rev, fused);
+          return 8;
+        }
+        if (inv) LeadBlocksSplit<16, true>(d, sre, sim, dre, dim, n, rev, fused);
+        else LeadBlocksSplit<16, false>(d, sre, sim, dre, dim, n, rev, fused);
+        return 16;
+      }
+      return Base::lead(sre, sim, dre, dim, n, leaf, rev, fused, inv, first);
+    }
     return inv ? lead_t<true>(sre, dre, n, leaf, rev, fused, first)
                : lead_t<false>(sre, dre, n, leaf, rev, fused, first);
   }
