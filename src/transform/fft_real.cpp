@@ -1,11 +1,13 @@
 // Real FFT of length N = 2^order into the packed layouts Perm, Pack and CCS,
 // and back. Order >= 4 runs the complex transform of order - 1 on the signal
 // viewed as N/2 complex values, z[m] = x[2m] + i x[2m+1], then recombines
-// the pairs Z[k], Z[N/2 - k] with the record's factors e^(-2 pi i k/N).
+// the pairs Z[k], Z[N/2 - k] with the record's factors (kernels/fft_real.h),
+// which also apply the scale and write the target layout.
 #include <cstdint>
 #include <cstring>
 
 #include "frame/common.h"
+#include "kernels/fft_real.h"
 #include "transform/fft_record.h"
 #include "transform/fft_small.h"
 
@@ -13,15 +15,6 @@ namespace kels::fft {
 namespace {
 
 enum class Layout { Perm, Pack, Ccs };
-
-template <class T>
-Cx<T> conj(Cx<T> a) {
-  return {a.r, -a.i};
-}
-template <class T>
-Cx<T> cmul(Cx<T> a, Cx<T> b) {
-  return {a.r * b.r - a.i * b.i, a.r * b.i + a.i * b.r};
-}
 
 // Perm (as computed) to the requested layout, in place in dst (N + 2 values
 // for CCS).
@@ -98,51 +91,9 @@ void small_inverse(int order, const T* perm, T* dst, bool scaled, T scale) {
   for (int i = 0; i < n; ++i) dst[i] = scaled ? x[i].r * scale : x[i].r;
 }
 
-// Forward recombination in place on the half-length spectrum Z (dst as
-// complex), leaving Perm.
+// The half-length complex transform, unscaled (the recombination scales).
 template <class T>
-void recombine_forward(T* d, std::size_t n, const T* w) {
-  auto* z = reinterpret_cast<Cx<T>*>(d);
-  const std::size_t m = n / 2;
-  const Cx<T> z0 = z[0];
-  d[0] = z0.r + z0.i;
-  d[1] = z0.r - z0.i;
-  for (std::size_t k = 1; k <= m / 2; ++k) {
-    const Cx<T> a = z[k], b = conj(z[m - k]);
-    const Cx<T> e = {(a.r + b.r) * T(0.5), (a.i + b.i) * T(0.5)};
-    // o = (a - b) / (2i)
-    const Cx<T> o = {(a.i - b.i) * T(0.5), (b.r - a.r) * T(0.5)};
-    const Cx<T> wk = k < m / 2 ? Cx<T>{w[2 * k], w[2 * k + 1]} : Cx<T>{T(0), T(-1)};
-    const Cx<T> t = cmul(wk, o);
-    z[k] = {e.r + t.r, e.i + t.i};
-    if (k != m - k) z[m - k] = {e.r - t.r, t.i - e.i};  // conj(e - t)
-  }
-}
-
-// Inverse recombination in place on Perm data: Z[k] = (X[k] + conj X[m-k])
-// + i (X[k] - conj X[m-k]) conj(w^k); the unscaled complex inverse of Z is
-// then N/2 * 2 = N times (x[2m] + i x[2m+1]).
-template <class T>
-void recombine_inverse(T* d, std::size_t n, const T* wc) {
-  auto* z = reinterpret_cast<Cx<T>*>(d);
-  const std::size_t m = n / 2;
-  const T r0 = d[0], rm = d[1];
-  z[0] = {r0 + rm, r0 - rm};
-  for (std::size_t k = 1; k <= m / 2; ++k) {
-    const Cx<T> xa = z[k], xb = conj(z[m - k]);
-    const Cx<T> e = {xa.r + xb.r, xa.i + xb.i};
-    const Cx<T> df = {xa.r - xb.r, xa.i - xb.i};
-    const Cx<T> wk = k < m / 2 ? Cx<T>{wc[2 * k], wc[2 * k + 1]} : Cx<T>{T(0), T(1)};
-    const Cx<T> o = cmul(df, wk);
-    // Z[k] = e + i o; Z[m-k] = conj(e) + i conj(o) (the same formula at m-k)
-    z[k] = {e.r - o.i, e.i + o.r};
-    if (k != m - k) z[m - k] = {e.r + o.i, o.r - e.i};
-  }
-}
-
-template <class T>
-void run_complex(const Header<T>* h, int corder, const T* src, T* dst, T* work, bool inv,
-                 bool scaled) {
+void run_complex(const Header<T>* h, int corder, const T* src, T* dst, T* work, bool inv) {
   const bool dbl = sizeof(T) == 8;
   if (corder < 4) {
     // The half-length transform itself is straight-line (8 points at most).
@@ -151,17 +102,20 @@ void run_complex(const Header<T>* h, int corder, const T* src, T* dst, T* work, 
     for (int i = 0; i < m; ++i) z[i] = {src[2 * i], src[2 * i + 1]};
     small_dft(corder, z, inv);
     for (int i = 0; i < m; ++i) {
-      dst[2 * i] = scaled ? z[i].r * h->scale() : z[i].r;
-      dst[2 * i + 1] = scaled ? z[i].i * h->scale() : z[i].i;
+      dst[2 * i] = z[i].r;
+      dst[2 * i + 1] = z[i].i;
     }
     return;
   }
   const kernels::FftPlan<T> plan = plan_of(h, corder, dbl);
-  const kernels::FftArgs<T> args{src, src + 1, dst, dst + 1, work, inv, scaled, h->scale()};
+  const kernels::FftArgs<T> args{src, src + 1, dst, dst + 1, work, inv, false, T(1)};
   kernels::fft_interleaved(plan, args);
 }
 
-// Forward transform of checked arguments; src and dst may be equal.
+// Forward transform of checked arguments; src and dst may be equal. From
+// order 4 the half-length spectrum Z is computed into dst and recombined in
+// place: X[k] (0 < k < N/2) lands where Z[k] was, which is its place in Perm
+// and CCS; Pack moves the block down by one value.
 template <class T>
 void forward_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) {
   const int order = h->order;
@@ -171,14 +125,31 @@ void forward_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
     T tmp[8];
     small_forward(order, src, tmp, scaled, h->scale());
     std::memcpy(dst, tmp, n * sizeof(T));
-  } else {
-    run_complex(h, order - 1, src, dst, work, false, scaled);
-    recombine_forward(dst, n, h->template at<T>(h->real_recombine));
+    from_perm(dst, n, lay);
+    return;
   }
-  from_perm(dst, n, lay);
+  run_complex(h, order - 1, src, dst, work, false);
+  const T s = scaled ? h->scale() : T(1);
+  const T z0r = dst[0], z0i = dst[1];
+  kernels::real_recombine(dst + 2, dst + 2, n / 2, h->template at<T>(h->real_recombine), T(-0.5),
+                          s * T(0.5), s);
+  const T x0 = (z0r + z0i) * s, xm = (z0r - z0i) * s;
+  dst[0] = x0;
+  if (lay == Layout::Perm) {
+    dst[1] = xm;
+  } else if (lay == Layout::Ccs) {
+    dst[1] = 0;
+    dst[n] = xm;
+    dst[n + 1] = 0;
+  } else {
+    std::memmove(dst + 1, dst + 2, (n - 2) * sizeof(T));
+    dst[n - 1] = xm;
+  }
 }
 
-// Inverse transform of checked arguments; src and dst may be equal.
+// Inverse transform of checked arguments; src and dst may be equal. From
+// order 4 the recombination reads X from src in its layout and writes Z into
+// dst (scaled), and the complex inverse runs in place in dst.
 template <class T>
 void inverse_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) {
   const int order = h->order;
@@ -190,9 +161,20 @@ void inverse_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
     small_inverse(order, perm, dst, scaled, h->scale());
     return;
   }
-  to_perm(src, dst, n, lay);
-  recombine_inverse(dst, n, h->template at<T>(h->ccs_recombine));
-  run_complex(h, order - 1, dst, dst, work, true, scaled);
+  const T s = scaled ? h->scale() : T(1);
+  const T r0 = src[0];
+  const T rm = lay == Layout::Perm ? src[1] : lay == Layout::Pack ? src[n - 1] : src[n];
+  // X[1] of Pack is one value lower than in the other layouts; in place the
+  // block moves up first so that every pair is read where it is written.
+  const T* in = src + 2;
+  if (lay == Layout::Pack) {
+    if (src == dst) std::memmove(dst + 2, dst + 1, (n - 2) * sizeof(T));
+    else in = src + 1;
+  }
+  kernels::real_recombine(in, dst + 2, n / 2, h->template at<T>(h->ccs_recombine), T(-1), s, s);
+  dst[0] = (r0 + rm) * s;
+  dst[1] = (r0 - rm) * s;
+  run_complex(h, order - 1, dst, dst, work, true);
 }
 
 template <class T>

@@ -1,0 +1,151 @@
+// SIMD kernels of the real FFT (the recombination of the half-length
+// spectrum) and of the packed-spectrum products, compiled once per target by
+// Highway (see fft_real.h for the arithmetic). The recombination works on
+// a vector of pairs k..k+L-1 from the bottom and their partners m-k-L+1..m-k
+// from the top, the top vector reversed complex by complex so that lane j of
+// both holds the partners k + j and m - k - j. Every sum and product is the
+// twin's, in the twin's order, so the results are bit-identical.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "kernels/fft_real.cpp"
+#include "hwy/foreach_target.h"  // IWYU pragma: keep
+#include "hwy/highway.h"
+
+#include "kernels/fft_real.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace kels::kernels {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+#if HWY_TARGET != HWY_SCALAR
+
+// Reverses the order of the complex values (lane pairs) of v.
+template <class D>
+HWY_INLINE hn::Vec<D> ReverseCx(D d, hn::Vec<D> v) {
+  if constexpr (sizeof(hn::TFromD<D>) == 4) {
+    const hn::Repartition<uint64_t, D> du;
+    return hn::BitCast(d, hn::Reverse(du, hn::BitCast(du, v)));
+  } else {
+    return hn::Reverse2(d, hn::Reverse(d, v));
+  }
+}
+
+template <class T>
+void RecombineT(const T* in, T* out, size_t m, const T* u, T mid, T hs, T s) {
+  const hn::ScalableTag<T> d;
+  const size_t L = hn::Lanes(d) / 2;
+  const auto vhs = hn::Set(d, hs), vs = hn::Set(d, s);
+  const auto one = hn::Set(d, T(1)), neg = hn::Set(d, T(-1));
+  const auto sgn = hn::OddEven(one, neg);  // -1 on the real lanes
+  const auto cj = hn::OddEven(neg, one);   // -1 on the imaginary lanes
+  size_t k = 1;
+  for (; k + L <= m / 2; k += L) {
+    const auto a = hn::LoadU(d, in + 2 * (k - 1));
+    const auto b = ReverseCx(d, hn::LoadU(d, in + 2 * (m - k - L)));
+    const auto p = hn::Add(a, b), q = hn::Sub(a, b);
+    const auto e = hn::Mul(hn::OddEven(q, p), vhs);  // (ar + br, ai - bi) hs
+    const auto f = hn::Mul(hn::OddEven(p, q), vs);   // (ar - br, ai + bi) s
+    const auto w = hn::LoadU(d, u + 2 * k);
+    const auto x = hn::Mul(hn::DupEven(w), f);
+    const auto y = hn::Mul(hn::DupOdd(w), hn::Reverse2(d, f));
+    const auto t = hn::Add(x, hn::Mul(sgn, y));
+    hn::StoreU(hn::Add(e, t), d, out + 2 * (k - 1));
+    hn::StoreU(ReverseCx(d, hn::Mul(hn::Sub(e, t), cj)), d, out + 2 * (m - k - L));
+  }
+  scalar::recombine_from(in, out, m, k, u, mid, hs, s);
+}
+
+// Complex products of interleaved pairs: with x = Re(a) b and y = Im(a) b
+// swapped, a b = x + (-1, +1) y and a conj(b) = y + (+1, -1) x.
+template <bool CONJ, class D>
+HWY_INLINE hn::Vec<D> MulCx(D d, hn::Vec<D> va, hn::Vec<D> vb, hn::Vec<D> sg) {
+  const auto x = hn::Mul(hn::DupEven(va), vb);
+  const auto y = hn::Mul(hn::DupOdd(va), hn::Reverse2(d, vb));
+  return CONJ ? hn::Add(y, hn::Mul(sg, x)) : hn::Add(x, hn::Mul(sg, y));
+}
+
+template <bool CONJ, class T>
+void MulPackedT(const T* a, const T* b, T* dst, size_t n) {
+  const hn::ScalableTag<T> d;
+  const size_t N = hn::Lanes(d);
+  const auto one = hn::Set(d, T(1)), neg = hn::Set(d, T(-1));
+  const auto sg = CONJ ? hn::OddEven(neg, one) : hn::OddEven(one, neg);
+  const size_t total = 2 * n;
+  size_t i = 0;
+  // Two vectors per step; both are loaded before either is stored, so dst
+  // may be a or b.
+  for (; i + 2 * N <= total; i += 2 * N) {
+    const auto r0 = MulCx<CONJ>(d, hn::LoadU(d, a + i), hn::LoadU(d, b + i), sg);
+    const auto r1 = MulCx<CONJ>(d, hn::LoadU(d, a + i + N), hn::LoadU(d, b + i + N), sg);
+    hn::StoreU(r0, d, dst + i);
+    hn::StoreU(r1, d, dst + i + N);
+  }
+  for (; i + N <= total; i += N) {
+    hn::StoreU(MulCx<CONJ>(d, hn::LoadU(d, a + i), hn::LoadU(d, b + i), sg), d, dst + i);
+  }
+  scalar::mul_packed_pairs(a + i, b + i, dst + i, (total - i) / 2, CONJ);
+}
+
+template <class T>
+void MulPackedDispatch(const T* a, const T* b, T* d, size_t n, bool conj) {
+  if (conj) MulPackedT<true>(a, b, d, n);
+  else MulPackedT<false>(a, b, d, n);
+}
+
+#else  // HWY_SCALAR: the twins
+
+template <class T>
+void RecombineT(const T* in, T* out, size_t m, const T* u, T mid, T hs, T s) {
+  scalar::real_recombine(in, out, m, u, mid, hs, s);
+}
+
+template <class T>
+void MulPackedDispatch(const T* a, const T* b, T* d, size_t n, bool conj) {
+  scalar::mul_packed_pairs(a, b, d, n, conj);
+}
+
+#endif
+
+void RecombineF32(const float* in, float* out, size_t m, const float* u, float mid, float hs, float s) {
+  RecombineT(in, out, m, u, mid, hs, s);
+}
+void RecombineF64(const double* in, double* out, size_t m, const double* u, double mid, double hs,
+                  double s) {
+  RecombineT(in, out, m, u, mid, hs, s);
+}
+void MulPackedF32(const float* a, const float* b, float* d, size_t n, bool conj) {
+  MulPackedDispatch(a, b, d, n, conj);
+}
+void MulPackedF64(const double* a, const double* b, double* d, size_t n, bool conj) {
+  MulPackedDispatch(a, b, d, n, conj);
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace kels::kernels
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace kels::kernels {
+
+HWY_EXPORT(RecombineF32);
+HWY_EXPORT(RecombineF64);
+HWY_EXPORT(MulPackedF32);
+HWY_EXPORT(MulPackedF64);
+
+void real_recombine(const float* in, float* out, std::size_t m, const float* u, float mid, float hs,
+                    float s) {
+  HWY_DYNAMIC_DISPATCH(RecombineF32)(in, out, m, u, mid, hs, s);
+}
+void real_recombine(const double* in, double* out, std::size_t m, const double* u, double mid,
+                    double hs, double s) {
+  HWY_DYNAMIC_DISPATCH(RecombineF64)(in, out, m, u, mid, hs, s);
+}
+void mul_packed_pairs(const float* a, const float* b, float* d, std::size_t n, bool conj) {
+  HWY_DYNAMIC_DISPATCH(MulPackedF32)(a, b, d, n, conj);
+}
+void mul_packed_pairs(const double* a, const double* b, double* d, std::size_t n, bool conj) {
+  HWY_DYNAMIC_DISPATCH(MulPackedF64)(a, b, d, n, conj);
+}
+
+}  // namespace kels::kernels
+#endif  // HWY_ONCE
