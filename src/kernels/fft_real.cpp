@@ -10,6 +10,8 @@
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
 #include "hwy/highway.h"
 
+#include <cstring>
+
 #include "kernels/fft_real.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -30,6 +32,28 @@ HWY_INLINE hn::Vec<D> ReverseCx(D d, hn::Vec<D> v) {
   }
 }
 
+// Real and imaginary parts of the complex values at p, each duplicated into
+// both lanes of its pair. For single precision the x86 forms that duplicate
+// while loading (a load and no shuffle) are used where they exist.
+template <class D>
+HWY_INLINE hn::Vec<D> LoadDupRe(D d, const hn::TFromD<D>* p) {
+#if HWY_TARGET <= HWY_AVX3
+  if constexpr (sizeof(hn::TFromD<D>) == 4) return hn::Vec<D>{_mm512_moveldup_ps(_mm512_loadu_ps(p))};
+#elif HWY_TARGET == HWY_AVX2
+  if constexpr (sizeof(hn::TFromD<D>) == 4) return hn::Vec<D>{_mm256_moveldup_ps(_mm256_loadu_ps(p))};
+#endif
+  return hn::DupEven(hn::LoadU(d, p));
+}
+template <class D>
+HWY_INLINE hn::Vec<D> LoadDupIm(D d, const hn::TFromD<D>* p) {
+#if HWY_TARGET <= HWY_AVX3
+  if constexpr (sizeof(hn::TFromD<D>) == 4) return hn::Vec<D>{_mm512_movehdup_ps(_mm512_loadu_ps(p))};
+#elif HWY_TARGET == HWY_AVX2
+  if constexpr (sizeof(hn::TFromD<D>) == 4) return hn::Vec<D>{_mm256_movehdup_ps(_mm256_loadu_ps(p))};
+#endif
+  return hn::DupOdd(hn::LoadU(d, p));
+}
+
 template <class T>
 void RecombineT(const T* in, T* out, size_t m, const T* u, T mid, T hs, T s) {
   const hn::ScalableTag<T> d;
@@ -45,9 +69,8 @@ void RecombineT(const T* in, T* out, size_t m, const T* u, T mid, T hs, T s) {
     const auto p = hn::Add(a, b), q = hn::Sub(a, b);
     const auto e = hn::Mul(hn::OddEven(q, p), vhs);  // (ar + br, ai - bi) hs
     const auto f = hn::Mul(hn::OddEven(p, q), vs);   // (ar - br, ai + bi) s
-    const auto w = hn::LoadU(d, u + 2 * k);
-    const auto x = hn::Mul(hn::DupEven(w), f);
-    const auto y = hn::Mul(hn::DupOdd(w), hn::Reverse2(d, f));
+    const auto x = hn::Mul(LoadDupRe(d, u + 2 * k), f);
+    const auto y = hn::Mul(LoadDupIm(d, u + 2 * k), hn::Reverse2(d, f));
     const auto t = hn::Add(x, hn::Mul(sgn, y));
     hn::StoreU(hn::Add(e, t), d, out + 2 * (k - 1));
     hn::StoreU(ReverseCx(d, hn::Mul(hn::Sub(e, t), cj)), d, out + 2 * (m - k - L));
@@ -55,12 +78,14 @@ void RecombineT(const T* in, T* out, size_t m, const T* u, T mid, T hs, T s) {
   scalar::recombine_from(in, out, m, k, u, mid, hs, s);
 }
 
-// Complex products of interleaved pairs: with x = Re(a) b and y = Im(a) b
-// swapped, a b = x + (-1, +1) y and a conj(b) = y + (+1, -1) x.
+// Complex products of the interleaved pairs at a and b: with x = Re(a) b and
+// y = Im(a) times b swapped, a b = x + (-1, +1) y and a conj(b) = y +
+// (+1, -1) x.
 template <bool CONJ, class D>
-HWY_INLINE hn::Vec<D> MulCx(D d, hn::Vec<D> va, hn::Vec<D> vb, hn::Vec<D> sg) {
-  const auto x = hn::Mul(hn::DupEven(va), vb);
-  const auto y = hn::Mul(hn::DupOdd(va), hn::Reverse2(d, vb));
+HWY_INLINE hn::Vec<D> MulCx(D d, const hn::TFromD<D>* a, const hn::TFromD<D>* b, hn::Vec<D> sg) {
+  const auto vb = hn::LoadU(d, b);
+  const auto x = hn::Mul(LoadDupRe(d, a), vb);
+  const auto y = hn::Mul(LoadDupIm(d, a), hn::Reverse2(d, vb));
   return CONJ ? hn::Add(y, hn::Mul(sg, x)) : hn::Add(x, hn::Mul(sg, y));
 }
 
@@ -75,15 +100,22 @@ void MulPackedT(const T* a, const T* b, T* dst, size_t n) {
   // Two vectors per step; both are loaded before either is stored, so dst
   // may be a or b.
   for (; i + 2 * N <= total; i += 2 * N) {
-    const auto r0 = MulCx<CONJ>(d, hn::LoadU(d, a + i), hn::LoadU(d, b + i), sg);
-    const auto r1 = MulCx<CONJ>(d, hn::LoadU(d, a + i + N), hn::LoadU(d, b + i + N), sg);
+    const auto r0 = MulCx<CONJ>(d, a + i, b + i, sg);
+    const auto r1 = MulCx<CONJ>(d, a + i + N, b + i + N, sg);
     hn::StoreU(r0, d, dst + i);
     hn::StoreU(r1, d, dst + i + N);
   }
-  for (; i + N <= total; i += N) {
-    hn::StoreU(MulCx<CONJ>(d, hn::LoadU(d, a + i), hn::LoadU(d, b + i), sg), d, dst + i);
+  for (; i + N <= total; i += N) hn::StoreU(MulCx<CONJ>(d, a + i, b + i, sg), d, dst + i);
+  // The last pairs through a padded vector, with the same arithmetic (a
+  // scalar loop here could be turned into fused multiply-adds by the
+  // compiler's own vectoriser).
+  if (i < total) {
+    HWY_ALIGN T ta[64 / sizeof(T)] = {}, tb[64 / sizeof(T)] = {};
+    std::memcpy(ta, a + i, (total - i) * sizeof(T));
+    std::memcpy(tb, b + i, (total - i) * sizeof(T));
+    hn::Store(MulCx<CONJ>(d, ta, tb, sg), d, ta);
+    std::memcpy(dst + i, ta, (total - i) * sizeof(T));
   }
-  scalar::mul_packed_pairs(a + i, b + i, dst + i, (total - i) / 2, CONJ);
 }
 
 template <class T>
