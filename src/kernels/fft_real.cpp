@@ -11,6 +11,7 @@
 #include "hwy/highway.h"
 
 #include <cstring>
+#include <type_traits>
 
 #include "kernels/fft_real.h"
 
@@ -38,31 +39,41 @@ HWY_INLINE hn::Vec<D> ReverseCx(D d, hn::Vec<D> v) {
 template <class D>
 HWY_INLINE hn::Vec<D> LoadDupRe(D d, const hn::TFromD<D>* p) {
 #if HWY_TARGET <= HWY_AVX3
-  if constexpr (sizeof(hn::TFromD<D>) == 4) return hn::Vec<D>{_mm512_moveldup_ps(_mm512_loadu_ps(p))};
-#elif HWY_TARGET == HWY_AVX2
-  if constexpr (sizeof(hn::TFromD<D>) == 4) return hn::Vec<D>{_mm256_moveldup_ps(_mm256_loadu_ps(p))};
+  if constexpr (std::is_same_v<hn::Vec<D>, hn::Vec512<float>>) {
+    return hn::Vec<D>{_mm512_moveldup_ps(_mm512_loadu_ps(p))};
+  }
+#endif
+#if HWY_TARGET <= HWY_AVX2
+  if constexpr (std::is_same_v<hn::Vec<D>, hn::Vec256<float>>) {
+    return hn::Vec<D>{_mm256_moveldup_ps(_mm256_loadu_ps(p))};
+  }
 #endif
   return hn::DupEven(hn::LoadU(d, p));
 }
 template <class D>
 HWY_INLINE hn::Vec<D> LoadDupIm(D d, const hn::TFromD<D>* p) {
 #if HWY_TARGET <= HWY_AVX3
-  if constexpr (sizeof(hn::TFromD<D>) == 4) return hn::Vec<D>{_mm512_movehdup_ps(_mm512_loadu_ps(p))};
-#elif HWY_TARGET == HWY_AVX2
-  if constexpr (sizeof(hn::TFromD<D>) == 4) return hn::Vec<D>{_mm256_movehdup_ps(_mm256_loadu_ps(p))};
+  if constexpr (std::is_same_v<hn::Vec<D>, hn::Vec512<float>>) {
+    return hn::Vec<D>{_mm512_movehdup_ps(_mm512_loadu_ps(p))};
+  }
+#endif
+#if HWY_TARGET <= HWY_AVX2
+  if constexpr (std::is_same_v<hn::Vec<D>, hn::Vec256<float>>) {
+    return hn::Vec<D>{_mm256_movehdup_ps(_mm256_loadu_ps(p))};
+  }
 #endif
   return hn::DupOdd(hn::LoadU(d, p));
 }
 
-template <class T>
-void RecombineT(const T* in, T* out, size_t m, const T* u, T mid, T hs, T s) {
-  const hn::ScalableTag<T> d;
+// Pairs from k on with vectors of d while a whole vector of pairs remains
+// below the middle; returns the first pair not done.
+template <class D, class T = hn::TFromD<D>>
+HWY_INLINE size_t RecombineVectors(D d, const T* in, T* out, size_t m, size_t k, const T* u, T hs, T s) {
   const size_t L = hn::Lanes(d) / 2;
   const auto vhs = hn::Set(d, hs), vs = hn::Set(d, s);
   const auto one = hn::Set(d, T(1)), neg = hn::Set(d, T(-1));
   const auto sgn = hn::OddEven(one, neg);  // -1 on the real lanes
   const auto cj = hn::OddEven(neg, one);   // -1 on the imaginary lanes
-  size_t k = 1;
   for (; k + L <= m / 2; k += L) {
     const auto a = hn::LoadU(d, in + 2 * (k - 1));
     const auto b = ReverseCx(d, hn::LoadU(d, in + 2 * (m - k - L)));
@@ -74,6 +85,18 @@ void RecombineT(const T* in, T* out, size_t m, const T* u, T mid, T hs, T s) {
     const auto t = hn::Add(x, hn::Mul(sgn, y));
     hn::StoreU(hn::Add(e, t), d, out + 2 * (k - 1));
     hn::StoreU(ReverseCx(d, hn::Mul(hn::Sub(e, t), cj)), d, out + 2 * (m - k - L));
+  }
+  return k;
+}
+
+// Full vectors, then (short spectra and the pairs next to the middle)
+// 128-bit vectors, then the twin for what is left and the middle.
+template <class T>
+void RecombineT(const T* in, T* out, size_t m, const T* u, T mid, T hs, T s) {
+  const hn::ScalableTag<T> d;
+  size_t k = RecombineVectors(d, in, out, m, 1, u, hs, s);
+  if (hn::Lanes(d) * sizeof(T) > 16) {
+    k = RecombineVectors(hn::CappedTag<T, 16 / sizeof(T)>(), in, out, m, k, u, hs, s);
   }
   scalar::recombine_from(in, out, m, k, u, mid, hs, s);
 }
@@ -89,6 +112,20 @@ HWY_INLINE hn::Vec<D> MulCx(D d, const hn::TFromD<D>* a, const hn::TFromD<D>* b,
   return CONJ ? hn::Add(y, hn::Mul(sg, x)) : hn::Add(x, hn::Mul(sg, y));
 }
 
+// Products of fewer than a vector of values through a padded vector, with
+// the same arithmetic as the full vectors (a scalar loop here could be
+// turned into fused multiply-adds by the compiler's own vectoriser).
+template <bool CONJ, class D>
+HWY_INLINE void MulCxPartial(D d, const hn::TFromD<D>* a, const hn::TFromD<D>* b, hn::TFromD<D>* dst,
+                             size_t count, hn::Vec<D> sg) {
+  using T = hn::TFromD<D>;
+  HWY_ALIGN T ta[64 / sizeof(T)] = {}, tb[64 / sizeof(T)] = {};
+  std::memcpy(ta, a, count * sizeof(T));
+  std::memcpy(tb, b, count * sizeof(T));
+  hn::Store(MulCx<CONJ>(d, ta, tb, sg), d, ta);
+  std::memcpy(dst, ta, count * sizeof(T));
+}
+
 template <bool CONJ, class T>
 void MulPackedT(const T* a, const T* b, T* dst, size_t n) {
   const hn::ScalableTag<T> d;
@@ -97,6 +134,14 @@ void MulPackedT(const T* a, const T* b, T* dst, size_t n) {
   const auto sg = CONJ ? hn::OddEven(neg, one) : hn::OddEven(one, neg);
   const size_t total = 2 * n;
   size_t i = 0;
+  // The first pairs separately until dst is vector-aligned (when it can be
+  // reached pair by pair), so that no store straddles two cache lines.
+  const size_t vbytes = N * sizeof(T);
+  const auto addr = reinterpret_cast<uintptr_t>(dst);
+  if (total >= 4 * N && addr % (2 * sizeof(T)) == 0 && addr % vbytes != 0) {
+    i = (vbytes - addr % vbytes) / sizeof(T);
+    MulCxPartial<CONJ>(d, a, b, dst, i, sg);
+  }
   // Two vectors per step; both are loaded before either is stored, so dst
   // may be a or b.
   for (; i + 2 * N <= total; i += 2 * N) {
@@ -106,16 +151,7 @@ void MulPackedT(const T* a, const T* b, T* dst, size_t n) {
     hn::StoreU(r1, d, dst + i + N);
   }
   for (; i + N <= total; i += N) hn::StoreU(MulCx<CONJ>(d, a + i, b + i, sg), d, dst + i);
-  // The last pairs through a padded vector, with the same arithmetic (a
-  // scalar loop here could be turned into fused multiply-adds by the
-  // compiler's own vectoriser).
-  if (i < total) {
-    HWY_ALIGN T ta[64 / sizeof(T)] = {}, tb[64 / sizeof(T)] = {};
-    std::memcpy(ta, a + i, (total - i) * sizeof(T));
-    std::memcpy(tb, b + i, (total - i) * sizeof(T));
-    hn::Store(MulCx<CONJ>(d, ta, tb, sg), d, ta);
-    std::memcpy(dst + i, ta, (total - i) * sizeof(T));
-  }
+  if (i < total) MulCxPartial<CONJ>(d, a + i, b + i, dst + i, total - i, sg);
 }
 
 template <class T>

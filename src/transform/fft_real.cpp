@@ -112,8 +112,14 @@ void run_complex(const Header<T>* h, int corder, const T* src, T* dst, T* work, 
   kernels::fft_interleaved(plan, args);
 }
 
+// Order 4 (an 8-point half-length transform) keeps the half-length spectrum
+// in registers and a local array and recombines it with the twin straight
+// into the layout: at this size the vector kernel's loads would wait for
+// the scalar stores just made.
+constexpr int kLocalOrder = 4;
+
 // Forward transform of checked arguments; src and dst may be equal. From
-// order 4 the half-length spectrum Z is computed into dst and recombined in
+// order 5 the half-length spectrum Z is computed into dst and recombined in
 // place: X[k] (0 < k < N/2) lands where Z[k] was, which is its place in Perm
 // and CCS; Pack moves the block down by one value.
 template <class T>
@@ -128,11 +134,18 @@ void forward_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
     from_perm(dst, n, lay);
     return;
   }
-  run_complex(h, order - 1, src, dst, work, false);
+  T local[16];
+  T* z = order == kLocalOrder ? local : dst;
+  run_complex(h, order - 1, src, z, work, false);
   const T s = scaled ? h->scale() : T(1);
-  const T z0r = dst[0], z0i = dst[1];
-  kernels::real_recombine(dst + 2, dst + 2, n / 2, h->template at<T>(h->real_recombine), T(-0.5),
-                          s * T(0.5), s);
+  const T* u = h->template at<T>(h->real_recombine);
+  const T z0r = z[0], z0i = z[1];
+  if (z == local) {
+    kernels::scalar::real_recombine(z + 2, dst + (lay == Layout::Pack ? 1 : 2), n / 2, u, T(-0.5), s * T(0.5), s);
+  } else {
+    kernels::real_recombine(z + 2, z + 2, n / 2, u, T(-0.5), s * T(0.5), s);
+    if (lay == Layout::Pack) std::memmove(dst + 1, dst + 2, (n - 2) * sizeof(T));
+  }
   const T x0 = (z0r + z0i) * s, xm = (z0r - z0i) * s;
   dst[0] = x0;
   if (lay == Layout::Perm) {
@@ -142,13 +155,12 @@ void forward_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
     dst[n] = xm;
     dst[n + 1] = 0;
   } else {
-    std::memmove(dst + 1, dst + 2, (n - 2) * sizeof(T));
     dst[n - 1] = xm;
   }
 }
 
 // Inverse transform of checked arguments; src and dst may be equal. From
-// order 4 the recombination reads X from src in its layout and writes Z into
+// order 5 the recombination reads X from src in its layout and writes Z into
 // dst (scaled), and the complex inverse runs in place in dst.
 template <class T>
 void inverse_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) {
@@ -162,19 +174,23 @@ void inverse_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
     return;
   }
   const T s = scaled ? h->scale() : T(1);
+  const T* u = h->template at<T>(h->ccs_recombine);
   const T r0 = src[0];
   const T rm = lay == Layout::Perm ? src[1] : lay == Layout::Pack ? src[n - 1] : src[n];
+  T local[16];
+  T* z = order == kLocalOrder ? local : dst;
   // X[1] of Pack is one value lower than in the other layouts; in place the
   // block moves up first so that every pair is read where it is written.
   const T* in = src + 2;
   if (lay == Layout::Pack) {
-    if (src == dst) std::memmove(dst + 2, dst + 1, (n - 2) * sizeof(T));
+    if (src == z) std::memmove(z + 2, z + 1, (n - 2) * sizeof(T));
     else in = src + 1;
   }
-  kernels::real_recombine(in, dst + 2, n / 2, h->template at<T>(h->ccs_recombine), T(-1), s, s);
-  dst[0] = (r0 + rm) * s;
-  dst[1] = (r0 - rm) * s;
-  run_complex(h, order - 1, dst, dst, work, true);
+  if (z == local) kernels::scalar::real_recombine(in, z + 2, n / 2, u, T(-1), s, s);
+  else kernels::real_recombine(in, z + 2, n / 2, u, T(-1), s, s);
+  z[0] = (r0 + rm) * s;
+  z[1] = (r0 - rm) * s;
+  run_complex(h, order - 1, z, dst, work, true);
 }
 
 template <class T>
