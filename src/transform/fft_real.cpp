@@ -160,8 +160,12 @@ void forward_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
 }
 
 // Inverse transform of checked arguments; src and dst may be equal. From
-// order 5 the recombination reads X from src in its layout and writes Z into
-// dst (scaled), and the complex inverse runs in place in dst.
+// order 5 the recombination reads X from src in its layout and writes Z
+// (scaled) into the work area when the half-length transform is a single
+// leaf (whose work area holds the N values and is otherwise unused by an
+// out-of-place transform), so that the complex inverse runs out of place
+// into dst with its permutation fused into the first pass; larger orders
+// write Z into dst and transform it in place.
 template <class T>
 void inverse_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) {
   const int order = h->order;
@@ -178,7 +182,8 @@ void inverse_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
   const T r0 = src[0];
   const T rm = lay == Layout::Perm ? src[1] : lay == Layout::Pack ? src[n - 1] : src[n];
   T local[16];
-  T* z = order == kLocalOrder ? local : dst;
+  const bool leaf = order - 1 <= leaf_max(sizeof(T) == 8) && work != nullptr;
+  T* z = order == kLocalOrder ? local : leaf ? work : dst;
   // X[1] of Pack is one value lower than in the other layouts; in place the
   // block moves up first so that every pair is read where it is written.
   const T* in = src + 2;
@@ -190,7 +195,7 @@ void inverse_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
   else kernels::real_recombine(in, z + 2, n / 2, u, T(-1), s, s);
   z[0] = (r0 + rm) * s;
   z[1] = (r0 - rm) * s;
-  run_complex(h, order - 1, z, dst, work, true);
+  run_complex(h, order - 1, z, dst, z == work ? nullptr : work, true);
 }
 
 template <class T>
