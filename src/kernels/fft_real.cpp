@@ -66,8 +66,9 @@ HWY_INLINE hn::Vec<D> LoadDupIm(D d, const hn::TFromD<D>* p) {
 }
 
 // Pairs from k on with vectors of d while a whole vector of pairs remains
-// below the middle; returns the first pair not done.
-template <class D, class T = hn::TFromD<D>>
+// below the middle; returns the first pair not done. UNIT: s == 1, whose
+// products are exact and skipped.
+template <bool UNIT, class D, class T = hn::TFromD<D>>
 HWY_INLINE size_t RecombineVectors(D d, const T* in, T* out, size_t m, size_t k, const T* u, T hs, T s) {
   const size_t L = hn::Lanes(d) / 2;
   const auto vhs = hn::Set(d, hs), vs = hn::Set(d, s);
@@ -79,7 +80,8 @@ HWY_INLINE size_t RecombineVectors(D d, const T* in, T* out, size_t m, size_t k,
     const auto b = ReverseCx(d, hn::LoadU(d, in + 2 * (m - k - L)));
     const auto p = hn::Add(a, b), q = hn::Sub(a, b);
     const auto e = hn::Mul(hn::OddEven(q, p), vhs);  // (ar + br, ai - bi) hs
-    const auto f = hn::Mul(hn::OddEven(p, q), vs);   // (ar - br, ai + bi) s
+    auto f = hn::OddEven(p, q);                      // (ar - br, ai + bi) s
+    if (!UNIT) f = hn::Mul(f, vs);
     const auto x = hn::Mul(LoadDupRe(d, u + 2 * k), f);
     const auto y = hn::Mul(LoadDupIm(d, u + 2 * k), hn::Reverse2(d, f));
     const auto t = hn::Add(x, hn::Mul(sgn, y));
@@ -90,15 +92,25 @@ HWY_INLINE size_t RecombineVectors(D d, const T* in, T* out, size_t m, size_t k,
 }
 
 // Full vectors, then (short spectra and the pairs next to the middle)
-// 128-bit vectors, then the twin for what is left and the middle.
-template <class T>
-void RecombineT(const T* in, T* out, size_t m, const T* u, T mid, T hs, T s) {
+// half and quarter vectors down to 128 bits, then the twin for what is left
+// and the middle.
+template <bool UNIT, class T>
+void RecombineWidths(const T* in, T* out, size_t m, const T* u, T mid, T hs, T s) {
   const hn::ScalableTag<T> d;
-  size_t k = RecombineVectors(d, in, out, m, 1, u, hs, s);
+  size_t k = RecombineVectors<UNIT>(d, in, out, m, 1, u, hs, s);
+  if (hn::Lanes(d) * sizeof(T) > 32) {
+    k = RecombineVectors<UNIT>(hn::CappedTag<T, 32 / sizeof(T)>(), in, out, m, k, u, hs, s);
+  }
   if (hn::Lanes(d) * sizeof(T) > 16) {
-    k = RecombineVectors(hn::CappedTag<T, 16 / sizeof(T)>(), in, out, m, k, u, hs, s);
+    k = RecombineVectors<UNIT>(hn::CappedTag<T, 16 / sizeof(T)>(), in, out, m, k, u, hs, s);
   }
   scalar::recombine_from(in, out, m, k, u, mid, hs, s);
+}
+
+template <class T>
+void RecombineT(const T* in, T* out, size_t m, const T* u, T mid, T hs, T s) {
+  if (s == T(1)) RecombineWidths<true>(in, out, m, u, mid, hs, s);
+  else RecombineWidths<false>(in, out, m, u, mid, hs, s);
 }
 
 // Complex products of the interleaved pairs at a and b: with x = Re(a) b and

@@ -32,31 +32,42 @@ bool same_bits(const T* a, const T* b, std::size_t n) {
 
 enum class Mode { InPlace, OutOfPlace, Shifted };
 
+struct RecombineCase {
+  std::size_t m;
+  Mode mode;
+  bool unscaled;  // s = 1: the kernels skip the products by s
+};
+
 template <class T>
 void check_recombine() {
+  std::vector<RecombineCase> cases;
+  for (std::size_t m = 4; m <= 2048; m *= 2)
+    for (Mode mode : {Mode::InPlace, Mode::OutOfPlace, Mode::Shifted})
+      for (bool unscaled : {true, false}) cases.push_back({m, mode, unscaled});
   std::mt19937 g(11);
   for_each_target([&](const std::string& target) {
-    for (std::size_t m = 4; m <= 2048; m *= 2) {
-      for (Mode mode : {Mode::InPlace, Mode::OutOfPlace, Mode::Shifted}) {
-        const std::size_t vals = 2 * (m - 1);  // elements 1..m-1
-        const auto data = uniform<T>(vals + 1, g);
-        const auto u = uniform<T>(m, g);
-        const T hs = T(0.5) * static_cast<T>(m % 3 + 1), s = static_cast<T>(m % 3 + 1);
-        const T mid = mode == Mode::Shifted ? T(-1) : T(-0.5);
-        // Input at an odd element offset for the shifted mode, output always
-        // one value past a vector boundary.
-        Guarded<T> in(vals + 1, sizeof(T)), out(vals, sizeof(T));
-        std::copy(data.begin(), data.end(), in.data());
-        const T* src = mode == Mode::Shifted ? in.data() + 1 : in.data();
-        T* dst = mode == Mode::InPlace ? in.data() : out.data();
-        std::vector<T> want(vals);
-        kernels::scalar::real_recombine(data.data() + (mode == Mode::Shifted ? 1 : 0), want.data(), m,
-                                        u.data(), mid, hs, s);
-        kernels::real_recombine(src, dst, m, u.data(), mid, hs, s);
-        EXPECT_TRUE(same_bits(dst, want.data(), vals)) << target << " m " << m << " mode " << int(mode);
-        if (mode != Mode::InPlace) EXPECT_TRUE(same_bits(in.data(), data.data(), vals + 1)) << target;
-        EXPECT_TRUE(in.guards_intact() && out.guards_intact()) << target << " m " << m;
-      }
+    for (const RecombineCase& c : cases) {
+      const std::size_t vals = 2 * (c.m - 1);  // elements 1..m-1
+      const auto data = uniform<T>(vals + 1, g);
+      const auto u = uniform<T>(c.m, g);
+      // Forward-like (hs = s/2, mid = -1/2) and inverse-like factors.
+      const T s = c.unscaled ? T(1) : T(0.3);
+      const bool fwd = c.mode != Mode::Shifted;
+      const T hs = fwd ? s * T(0.5) : s, mid = fwd ? T(-0.5) : T(-1);
+      // Input at an odd element offset for the shifted mode, output always
+      // one value past a vector boundary.
+      Guarded<T> in(vals + 1, sizeof(T)), out(vals, sizeof(T));
+      std::copy(data.begin(), data.end(), in.data());
+      const std::size_t shift = c.mode == Mode::Shifted ? 1 : 0;
+      T* dst = c.mode == Mode::InPlace ? in.data() : out.data();
+      std::vector<T> want(vals);
+      kernels::scalar::real_recombine(data.data() + shift, want.data(), c.m, u.data(), mid, hs, s);
+      kernels::real_recombine(in.data() + shift, dst, c.m, u.data(), mid, hs, s);
+      const std::string what = target + " m " + std::to_string(c.m) + " mode " +
+                               std::to_string(int(c.mode)) + " s " + std::to_string(s);
+      EXPECT_TRUE(same_bits(dst, want.data(), vals)) << what;
+      if (c.mode != Mode::InPlace) EXPECT_TRUE(same_bits(in.data(), data.data(), vals + 1)) << what;
+      EXPECT_TRUE(in.guards_intact() && out.guards_intact()) << what;
     }
   });
 }
