@@ -36,34 +36,27 @@ HWY_INLINE hn::Vec<D> ReverseCx(D d, hn::Vec<D> v) {
 // Real and imaginary parts of the complex values at p, each duplicated into
 // both lanes of its pair. For single precision the x86 forms that duplicate
 // while loading (a load and no shuffle) are used where they exist.
-template <class D>
-HWY_INLINE hn::Vec<D> LoadDupRe(D d, const hn::TFromD<D>* p) {
+template <bool IM, class D>
+HWY_INLINE hn::Vec<D> LoadDup(D d, const hn::TFromD<D>* p) {
 #if HWY_TARGET <= HWY_AVX3
   if constexpr (std::is_same_v<hn::Vec<D>, hn::Vec512<float>>) {
-    return hn::Vec<D>{_mm512_moveldup_ps(_mm512_loadu_ps(p))};
+    const __m512 v = _mm512_loadu_ps(p);
+    return hn::Vec<D>{IM ? _mm512_movehdup_ps(v) : _mm512_moveldup_ps(v)};
   }
 #endif
 #if HWY_TARGET <= HWY_AVX2
   if constexpr (std::is_same_v<hn::Vec<D>, hn::Vec256<float>>) {
-    return hn::Vec<D>{_mm256_moveldup_ps(_mm256_loadu_ps(p))};
+    const __m256 v = _mm256_loadu_ps(p);
+    return hn::Vec<D>{IM ? _mm256_movehdup_ps(v) : _mm256_moveldup_ps(v)};
   }
 #endif
-  return hn::DupEven(hn::LoadU(d, p));
+  const auto v = hn::LoadU(d, p);
+  return IM ? hn::DupOdd(v) : hn::DupEven(v);
 }
 template <class D>
-HWY_INLINE hn::Vec<D> LoadDupIm(D d, const hn::TFromD<D>* p) {
-#if HWY_TARGET <= HWY_AVX3
-  if constexpr (std::is_same_v<hn::Vec<D>, hn::Vec512<float>>) {
-    return hn::Vec<D>{_mm512_movehdup_ps(_mm512_loadu_ps(p))};
-  }
-#endif
-#if HWY_TARGET <= HWY_AVX2
-  if constexpr (std::is_same_v<hn::Vec<D>, hn::Vec256<float>>) {
-    return hn::Vec<D>{_mm256_movehdup_ps(_mm256_loadu_ps(p))};
-  }
-#endif
-  return hn::DupOdd(hn::LoadU(d, p));
-}
+HWY_INLINE hn::Vec<D> LoadDupRe(D d, const hn::TFromD<D>* p) { return LoadDup<false>(d, p); }
+template <class D>
+HWY_INLINE hn::Vec<D> LoadDupIm(D d, const hn::TFromD<D>* p) { return LoadDup<true>(d, p); }
 
 // Pairs from k on with vectors of d while a whole vector of pairs remains
 // below the middle; returns the first pair not done. UNIT: s == 1, whose
