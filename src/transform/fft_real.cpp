@@ -95,13 +95,13 @@ void small_inverse(int order, const T* perm, T* dst, bool scaled, T scale) {
 template <class T>
 void run_complex(const Header<T>* h, int corder, const T* src, T* dst, T* work, bool inv) {
   const bool dbl = sizeof(T) == 8;
-  if (corder < 4) {
-    // The half-length transform itself is straight-line (8 points at most).
+  if (corder == 3) {
+    // The half-length transform of order 4 is straight-line code, expanded
+    // here for its one size.
     Cx<T> z[8];
-    const int m = 1 << corder;
-    for (int i = 0; i < m; ++i) z[i] = {src[2 * i], src[2 * i + 1]};
-    small_dft(corder, z, inv);
-    for (int i = 0; i < m; ++i) {
+    for (int i = 0; i < 8; ++i) z[i] = {src[2 * i], src[2 * i + 1]};
+    small_dft(3, z, inv);
+    for (int i = 0; i < 8; ++i) {
       dst[2 * i] = z[i].r;
       dst[2 * i + 1] = z[i].i;
     }
