@@ -118,10 +118,20 @@ void run_complex(const Header<T>* h, int corder, const T* src, T* dst, T* work, 
 // the scalar stores just made.
 constexpr int kLocalOrder = 4;
 
+// Whether the half-length transform of a real record of this order is a
+// single leaf, whose record work area holds its N values and which, out of
+// place, leaves the work area unused.
+template <class T>
+bool half_is_leaf(int order, const T* work) {
+  return order - 1 <= leaf_max(sizeof(T) == 8) && work != nullptr;
+}
+
 // Forward transform of checked arguments; src and dst may be equal. From
 // order 5 the half-length spectrum Z is computed into dst and recombined in
 // place: X[k] (0 < k < N/2) lands where Z[k] was, which is its place in Perm
-// and CCS; Pack moves the block down by one value.
+// and CCS. Pack, one value lower, takes Z from the work area when the
+// half-length transform is a single leaf, and otherwise moves the block down
+// by one value.
 template <class T>
 void forward_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) {
   const int order = h->order;
@@ -135,16 +145,17 @@ void forward_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
     return;
   }
   T local[16];
-  T* z = order == kLocalOrder ? local : dst;
-  run_complex(h, order - 1, src, z, work, false);
+  T* z = order == kLocalOrder ? local : lay == Layout::Pack && half_is_leaf(order, work) ? work : dst;
+  run_complex(h, order - 1, src, z, z == work ? nullptr : work, false);
   const T s = scaled ? h->scale() : T(1);
   const T* u = h->template at<T>(h->real_recombine);
   const T z0r = z[0], z0i = z[1];
+  T* out = dst + (lay == Layout::Pack ? 1 : 2);
   if (z == local) {
-    kernels::scalar::real_recombine(z + 2, dst + (lay == Layout::Pack ? 1 : 2), n / 2, u, T(-0.5), s * T(0.5), s);
+    kernels::scalar::real_recombine(z + 2, out, n / 2, u, T(-0.5), s * T(0.5), s);
   } else {
-    kernels::real_recombine(z + 2, z + 2, n / 2, u, T(-0.5), s * T(0.5), s);
-    if (lay == Layout::Pack) std::memmove(dst + 1, dst + 2, (n - 2) * sizeof(T));
+    kernels::real_recombine(z + 2, z == dst ? z + 2 : out, n / 2, u, T(-0.5), s * T(0.5), s);
+    if (z == dst && lay == Layout::Pack) std::memmove(dst + 1, dst + 2, (n - 2) * sizeof(T));
   }
   const T x0 = (z0r + z0i) * s, xm = (z0r - z0i) * s;
   dst[0] = x0;
@@ -162,10 +173,9 @@ void forward_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
 // Inverse transform of checked arguments; src and dst may be equal. From
 // order 5 the recombination reads X from src in its layout and writes Z
 // (scaled) into the work area when the half-length transform is a single
-// leaf (whose work area holds the N values and is otherwise unused by an
-// out-of-place transform), so that the complex inverse runs out of place
-// into dst with its permutation fused into the first pass; larger orders
-// write Z into dst and transform it in place.
+// leaf, so that the complex inverse runs out of place into dst with its
+// permutation fused into the first pass; larger orders write Z into dst
+// and transform it in place.
 template <class T>
 void inverse_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) {
   const int order = h->order;
@@ -182,8 +192,7 @@ void inverse_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
   const T r0 = src[0];
   const T rm = lay == Layout::Perm ? src[1] : lay == Layout::Pack ? src[n - 1] : src[n];
   T local[16];
-  const bool leaf = order - 1 <= leaf_max(sizeof(T) == 8) && work != nullptr;
-  T* z = order == kLocalOrder ? local : leaf ? work : dst;
+  T* z = order == kLocalOrder ? local : half_is_leaf(order, work) ? work : dst;
   // X[1] of Pack is one value lower than in the other layouts; in place the
   // block moves up first so that every pair is read where it is written.
   const T* in = src + 2;
