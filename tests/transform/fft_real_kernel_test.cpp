@@ -27,7 +27,7 @@ std::vector<T> uniform(std::size_t n, std::mt19937& g) {
 
 template <class T>
 bool same_bits(const T* a, const T* b, std::size_t n) {
-  return std::memcmp(a, b, n * sizeof(T)) == 0;
+  return n == 0 || std::memcmp(a, b, n * sizeof(T)) == 0;
 }
 
 enum class Mode { InPlace, OutOfPlace, Shifted };
