@@ -23,9 +23,10 @@
 namespace kels::kernels {
 
 // Recombination of a spectrum of m complex values (m >= 4, a power of two):
-// element k (1 <= k <= m/2 ... m - 1) is read at in[2(k-1)], in[2(k-1)+1]
-// and written at the same place of out; in may equal out (each pair is read
-// before it is written). u holds u[k] at u[2k], u[2k+1] for k < m/2.
+// element k, 1 <= k <= m - 1, is read at in[2(k-1)], in[2(k-1)+1] and
+// written at the same place of out; in may equal out (each pair is read
+// before it is written), otherwise the two must not overlap. u holds u[k]
+// at u[2k], u[2k+1] for k < m/2.
 void real_recombine(const float* in, float* out, std::size_t m, const float* u, float mid, float hs,
                     float s);
 void real_recombine(const double* in, double* out, std::size_t m, const double* u, double mid,
@@ -57,7 +58,8 @@ inline void recombine_pair(const T* in, T* out, std::size_t m, std::size_t k, T 
   ohi[1] = -(ei - ti);
 }
 
-// The middle element k = m/2: A[k] is its own partner and u = (mid, 0).
+// The middle element k = m/2: A[k] is its own partner and u = (mid, 0), so
+// dif is imaginary and B[k] = (hs Re sum, mid s Im dif).
 template <class T>
 inline void recombine_middle(const T* in, T* out, std::size_t m, T mid, T hs, T s) {
   const T* c = in + 2 * (m / 2 - 1);
