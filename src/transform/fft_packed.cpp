@@ -8,7 +8,7 @@
 
 #include "frame/common.h"
 #include "frame/scale.h"
-#include "kernels/fft.h"
+#include "kernels/fft_real.h"
 
 namespace kels::packed {
 namespace {
@@ -64,7 +64,7 @@ KelStatus mul(const T* a, const T* b, T* d, int len, bool perm, bool conj_b, int
   const Shape s = perm ? perm_shape(len) : pack_shape(len);
   // The pairs first: in place, d is b, and the real entries lie outside them.
   if constexpr (std::is_floating_point_v<T>) {
-    kernels::mul_pairs(a + s.first_pair, b + s.first_pair, d + s.first_pair,
+    kernels::mul_packed_pairs(a + s.first_pair, b + s.first_pair, d + s.first_pair,
                        static_cast<std::size_t>(s.pairs), conj_b);
   }
   d[0] = ar.real(a[0], b[0]);

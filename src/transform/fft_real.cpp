@@ -1,11 +1,13 @@
 // Real FFT of length N = 2^order into the packed layouts Perm, Pack and CCS,
 // and back. Order >= 4 runs the complex transform of order - 1 on the signal
 // viewed as N/2 complex values, z[m] = x[2m] + i x[2m+1], then recombines
-// the pairs Z[k], Z[N/2 - k] with the record's factors e^(-2 pi i k/N).
+// the pairs Z[k], Z[N/2 - k] with the record's factors (kernels/fft_real.h),
+// which also apply the scale and write the target layout.
 #include <cstdint>
 #include <cstring>
 
 #include "frame/common.h"
+#include "kernels/fft_real.h"
 #include "transform/fft_record.h"
 #include "transform/fft_small.h"
 
@@ -13,15 +15,6 @@ namespace kels::fft {
 namespace {
 
 enum class Layout { Perm, Pack, Ccs };
-
-template <class T>
-Cx<T> conj(Cx<T> a) {
-  return {a.r, -a.i};
-}
-template <class T>
-Cx<T> cmul(Cx<T> a, Cx<T> b) {
-  return {a.r * b.r - a.i * b.i, a.r * b.i + a.i * b.r};
-}
 
 // Perm (as computed) to the requested layout, in place in dst (N + 2 values
 // for CCS).
@@ -98,70 +91,47 @@ void small_inverse(int order, const T* perm, T* dst, bool scaled, T scale) {
   for (int i = 0; i < n; ++i) dst[i] = scaled ? x[i].r * scale : x[i].r;
 }
 
-// Forward recombination in place on the half-length spectrum Z (dst as
-// complex), leaving Perm.
+// The half-length complex transform, unscaled (the recombination scales).
 template <class T>
-void recombine_forward(T* d, std::size_t n, const T* w) {
-  auto* z = reinterpret_cast<Cx<T>*>(d);
-  const std::size_t m = n / 2;
-  const Cx<T> z0 = z[0];
-  d[0] = z0.r + z0.i;
-  d[1] = z0.r - z0.i;
-  for (std::size_t k = 1; k <= m / 2; ++k) {
-    const Cx<T> a = z[k], b = conj(z[m - k]);
-    const Cx<T> e = {(a.r + b.r) * T(0.5), (a.i + b.i) * T(0.5)};
-    // o = (a - b) / (2i)
-    const Cx<T> o = {(a.i - b.i) * T(0.5), (b.r - a.r) * T(0.5)};
-    const Cx<T> wk = k < m / 2 ? Cx<T>{w[2 * k], w[2 * k + 1]} : Cx<T>{T(0), T(-1)};
-    const Cx<T> t = cmul(wk, o);
-    z[k] = {e.r + t.r, e.i + t.i};
-    if (k != m - k) z[m - k] = {e.r - t.r, t.i - e.i};  // conj(e - t)
-  }
-}
-
-// Inverse recombination in place on Perm data: Z[k] = (X[k] + conj X[m-k])
-// + i (X[k] - conj X[m-k]) conj(w^k); the unscaled complex inverse of Z is
-// then N/2 * 2 = N times (x[2m] + i x[2m+1]).
-template <class T>
-void recombine_inverse(T* d, std::size_t n, const T* wc) {
-  auto* z = reinterpret_cast<Cx<T>*>(d);
-  const std::size_t m = n / 2;
-  const T r0 = d[0], rm = d[1];
-  z[0] = {r0 + rm, r0 - rm};
-  for (std::size_t k = 1; k <= m / 2; ++k) {
-    const Cx<T> xa = z[k], xb = conj(z[m - k]);
-    const Cx<T> e = {xa.r + xb.r, xa.i + xb.i};
-    const Cx<T> df = {xa.r - xb.r, xa.i - xb.i};
-    const Cx<T> wk = k < m / 2 ? Cx<T>{wc[2 * k], wc[2 * k + 1]} : Cx<T>{T(0), T(1)};
-    const Cx<T> o = cmul(df, wk);
-    // Z[k] = e + i o; Z[m-k] = conj(e) + i conj(o) (the same formula at m-k)
-    z[k] = {e.r - o.i, e.i + o.r};
-    if (k != m - k) z[m - k] = {e.r + o.i, o.r - e.i};
-  }
-}
-
-template <class T>
-void run_complex(const Header<T>* h, int corder, const T* src, T* dst, T* work, bool inv,
-                 bool scaled) {
+void run_complex(const Header<T>* h, int corder, const T* src, T* dst, T* work, bool inv) {
   const bool dbl = sizeof(T) == 8;
-  if (corder < 4) {
-    // The half-length transform itself is straight-line (8 points at most).
+  if (corder == 3) {
+    // The half-length transform of order 4 is straight-line code, expanded
+    // here for its one size.
     Cx<T> z[8];
-    const int m = 1 << corder;
-    for (int i = 0; i < m; ++i) z[i] = {src[2 * i], src[2 * i + 1]};
-    small_dft(corder, z, inv);
-    for (int i = 0; i < m; ++i) {
-      dst[2 * i] = scaled ? z[i].r * h->scale() : z[i].r;
-      dst[2 * i + 1] = scaled ? z[i].i * h->scale() : z[i].i;
+    for (int i = 0; i < 8; ++i) z[i] = {src[2 * i], src[2 * i + 1]};
+    small_dft(3, z, inv);
+    for (int i = 0; i < 8; ++i) {
+      dst[2 * i] = z[i].r;
+      dst[2 * i + 1] = z[i].i;
     }
     return;
   }
   const kernels::FftPlan<T> plan = plan_of(h, corder, dbl);
-  const kernels::FftArgs<T> args{src, src + 1, dst, dst + 1, work, inv, scaled, h->scale()};
+  const kernels::FftArgs<T> args{src, src + 1, dst, dst + 1, work, inv, false, T(1)};
   kernels::fft_interleaved(plan, args);
 }
 
-// Forward transform of checked arguments; src and dst may be equal.
+// Order 4 (an 8-point half-length transform) keeps the half-length spectrum
+// in registers and a local array and recombines it with the twin straight
+// into the layout: at this size the vector kernel's loads would wait for
+// the scalar stores just made.
+constexpr int kLocalOrder = 4;
+
+// Whether the half-length transform of a real record of this order is a
+// single leaf, whose record work area holds its N values and which, out of
+// place, leaves the work area unused.
+template <class T>
+bool half_is_leaf(int order, const T* work) {
+  return order - 1 <= leaf_max(sizeof(T) == 8) && work != nullptr;
+}
+
+// Forward transform of checked arguments; src and dst may be equal. From
+// order 5 the half-length spectrum Z is computed into dst and recombined in
+// place: X[k] (0 < k < N/2) lands where Z[k] was, which is its place in Perm
+// and CCS. Pack, one value lower, takes Z from the work area when the
+// half-length transform is a single leaf, and otherwise moves the block down
+// by one value.
 template <class T>
 void forward_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) {
   const int order = h->order;
@@ -171,14 +141,41 @@ void forward_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
     T tmp[8];
     small_forward(order, src, tmp, scaled, h->scale());
     std::memcpy(dst, tmp, n * sizeof(T));
-  } else {
-    run_complex(h, order - 1, src, dst, work, false, scaled);
-    recombine_forward(dst, n, h->template at<T>(h->real_recombine));
+    from_perm(dst, n, lay);
+    return;
   }
-  from_perm(dst, n, lay);
+  T local[16];
+  T* z = order == kLocalOrder ? local : lay == Layout::Pack && half_is_leaf(order, work) ? work : dst;
+  run_complex(h, order - 1, src, z, z == work ? nullptr : work, false);
+  const T s = scaled ? h->scale() : T(1);
+  const T* u = h->template at<T>(h->real_recombine);
+  const T z0r = z[0], z0i = z[1];
+  T* out = dst + (lay == Layout::Pack ? 1 : 2);
+  if (z == local) {
+    kernels::scalar::real_recombine(z + 2, out, n / 2, u, T(-0.5), s * T(0.5), s);
+  } else {
+    kernels::real_recombine(z + 2, z == dst ? z + 2 : out, n / 2, u, T(-0.5), s * T(0.5), s);
+    if (z == dst && lay == Layout::Pack) std::memmove(dst + 1, dst + 2, (n - 2) * sizeof(T));
+  }
+  const T x0 = (z0r + z0i) * s, xm = (z0r - z0i) * s;
+  dst[0] = x0;
+  if (lay == Layout::Perm) {
+    dst[1] = xm;
+  } else if (lay == Layout::Ccs) {
+    dst[1] = 0;
+    dst[n] = xm;
+    dst[n + 1] = 0;
+  } else {
+    dst[n - 1] = xm;
+  }
 }
 
-// Inverse transform of checked arguments; src and dst may be equal.
+// Inverse transform of checked arguments; src and dst may be equal. From
+// order 5 the recombination reads X from src in its layout and writes Z
+// (scaled) into the work area when the half-length transform is a single
+// leaf, so that the complex inverse runs out of place into dst with its
+// permutation fused into the first pass; larger orders write Z into dst
+// and transform it in place.
 template <class T>
 void inverse_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) {
   const int order = h->order;
@@ -190,9 +187,24 @@ void inverse_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
     small_inverse(order, perm, dst, scaled, h->scale());
     return;
   }
-  to_perm(src, dst, n, lay);
-  recombine_inverse(dst, n, h->template at<T>(h->ccs_recombine));
-  run_complex(h, order - 1, dst, dst, work, true, scaled);
+  const T s = scaled ? h->scale() : T(1);
+  const T* u = h->template at<T>(h->ccs_recombine);
+  const T r0 = src[0];
+  const T rm = lay == Layout::Perm ? src[1] : lay == Layout::Pack ? src[n - 1] : src[n];
+  T local[16];
+  T* z = order == kLocalOrder ? local : half_is_leaf(order, work) ? work : dst;
+  // X[1] of Pack is one value lower than in the other layouts; in place the
+  // block moves up first so that every pair is read where it is written.
+  const T* in = src + 2;
+  if (lay == Layout::Pack) {
+    if (src == z) std::memmove(z + 2, z + 1, (n - 2) * sizeof(T));
+    else in = src + 1;
+  }
+  if (z == local) kernels::scalar::real_recombine(in, z + 2, n / 2, u, T(-1), s, s);
+  else kernels::real_recombine(in, z + 2, n / 2, u, T(-1), s, s);
+  z[0] = (r0 + rm) * s;
+  z[1] = (r0 - rm) * s;
+  run_complex(h, order - 1, z, dst, z == work ? nullptr : work, true);
 }
 
 template <class T>

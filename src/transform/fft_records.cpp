@@ -258,15 +258,16 @@ KelStatus build(const Family& f, void* mem, int order, int flag, int hint, void*
   const int corder = f.real ? order - 1 : order;
   if (corder >= 4) build_complex_tables(h, pl, corder, f.dbl, f.split, tw);
   if (f.real) {
-    // Recombination factors e^(-2 pi i k/N) (forward) and their conjugates
-    // (inverse), k = 0..N/4-1.
+    // Recombination factors u[k], k = 0..N/4-1, of w^k = e^(-2 pi i k/N)
+    // with the rotation and the forward 1/2 folded in (exactly):
+    // -i w^k / 2 (forward) and i conj(w^k) (inverse); see kernels/fft_real.h.
     const std::size_t c = static_cast<std::size_t>(n / 4);
     T* rr = pl.template take<T>(h->real_recombine, 2 * sizeof(T) * c);
     T* cr = pl.template take<T>(h->ccs_recombine, 2 * sizeof(T) * c);
     for (std::size_t k = 0; k < c; ++k) {
       const auto w = tw.w(k, order);
-      put(rr, c, k, w, false);
-      put(cr, c, k, kernels::scalar::Cx<T>{w.r, -w.i}, false);
+      put(rr, c, k, kernels::scalar::Cx<T>{w.i / 2, -w.r / 2}, false);
+      put(cr, c, k, kernels::scalar::Cx<T>{w.i, w.r}, false);
     }
   }
   *out = h;

@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <random>
+#include <string>
 #include <vector>
 
 #include "frame/malloc.h"
@@ -139,6 +140,17 @@ TYPED_TEST(FftReal, LayoutsOrdersFlagsModes) {
   for (int order = 0; order <= 13; ++order)
     for (Lay lay : {Lay::Perm, Lay::Pack, Lay::Ccs})
       for (int flag : {1, 2, 4, 8}) check<TypeParam>(order, flag, lay, (order + flag) % 2 == 0, flag == 2);
+}
+
+// The recombination kernel of every target: orders where it is all scalar
+// tail (4, 5) and where the vector loop runs, every layout, forward and
+// inverse scaling, in place and out of place.
+TYPED_TEST(FftReal, EveryTarget) {
+  for_each_target([](const std::string&) {
+    for (int order = 4; order <= 10; ++order)
+      for (Lay lay : {Lay::Perm, Lay::Pack, Lay::Ccs})
+        for (int flag : {1, 2}) check<TypeParam>(order, flag, lay, (order + flag) % 2 == 0, false);
+  });
 }
 
 TYPED_TEST(FftReal, LargeOrders) {
