@@ -107,6 +107,11 @@ void run_complex(const Header<T>* h, int corder, const T* src, T* dst, T* work, 
     }
     return;
   }
+  if (corder <= 6 && src != dst &&
+      kernels::fft_small_interleaved(src, dst, corder, h->template at<T>(h->twiddle), inv, false,
+                                     T(1))) {
+    return;
+  }
   const kernels::FftPlan<T> plan = plan_of(h, corder, dbl);
   const kernels::FftArgs<T> args{src, src + 1, dst, dst + 1, work, inv, false, T(1)};
   kernels::fft_interleaved(plan, args);
