@@ -1146,45 +1146,24 @@ void Run(const FftPlan<T>& p, const FftArgs<T>& a) {
 }
 
 template <class T>
-bool SmallInterleaved(const T* src, T* dst, int order, const T* first, bool inv, bool scaled,
-                      T scale) {
+bool SmallInterleaved(const T* src, T* dst, int order, const T* first, const uint32_t* rev,
+                      bool inv, bool scaled, T scale) {
   const hn::CappedTag<T, 8> d4;
-  if (hn::Lanes(d4) != 8 || order < 4 || order > 6) return false;
+  if (hn::Lanes(d4) < 4 || order < 4) return false;
   const size_t n = size_t(1) << order;
-  VecPasses<T, 2>::lead(src, nullptr, dst, nullptr, n, order, scalar::BitRev(nullptr, 0), true,
-                        inv, first);
-  if (scaled) VecPasses<T, 2>::scale(dst, nullptr, n, scale);
+  using P = VecPasses<T, 2>;
+  const size_t lead = P::lead(src, nullptr, dst, nullptr, n, order,
+                              scalar::BitRev(rev, order), true, inv, first);
+  scalar::leaf_stages<T, P>(dst, dst + 1, order, lead, first, inv);
+  if (scaled) P::scale(dst, nullptr, n, scale);
   return true;
-}
-
-// d = a * b (or a * conj(b)) for `pairs` interleaved complex values; d may
-// equal a or b.
-template <bool CONJ, class T>
-void MulPairsT(const T* a, const T* b, T* d, size_t pairs) {
-  const hn::ScalableTag<T> dt;
-  const CxOps<decltype(dt), 2, CONJ> o(dt);
-  const size_t step = hn::Lanes(dt) / 2;
-  size_t i = 0;
-  if (step >= 1) {
-    for (; i + step <= pairs; i += step) o.store(d, nullptr, i, o.mul(o.load(a, nullptr, i), o.load(b, nullptr, i)));
-  }
-  for (; i < pairs; ++i) {
-    const scalar::Cx<T> v = scalar::mul(scalar::Cx<T>{a[2 * i], a[2 * i + 1]}, scalar::Cx<T>{b[2 * i], b[2 * i + 1]}, CONJ);
-    d[2 * i] = v.r;
-    d[2 * i + 1] = v.i;
-  }
 }
 
 #else  // HWY_SCALAR: the portable twin
 
 template <class T>
-bool SmallInterleaved(const T*, T*, int, const T*, bool, bool, T) {
+bool SmallInterleaved(const T*, T*, int, const T*, const uint32_t*, bool, bool, T) {
   return false;
-}
-
-template <bool CONJ, class T>
-void MulPairsT(const T* a, const T* b, T* d, size_t pairs) {
-  scalar::mul_pairs(a, b, d, pairs, CONJ);
 }
 
 
@@ -1195,22 +1174,13 @@ void Run(const FftPlan<T>& p, const FftArgs<T>& a) {
 
 #endif
 
-void MulPairsF32(const float* a, const float* b, float* d, size_t n, bool conj) {
-  if (conj) MulPairsT<true>(a, b, d, n);
-  else MulPairsT<false>(a, b, d, n);
+bool SmallInterleavedF32(const float* src, float* dst, int order, const float* first,
+                         const uint32_t* rev, bool inv, bool scaled, float scale) {
+  return SmallInterleaved(src, dst, order, first, rev, inv, scaled, scale);
 }
-void MulPairsF64(const double* a, const double* b, double* d, size_t n, bool conj) {
-  if (conj) MulPairsT<true>(a, b, d, n);
-  else MulPairsT<false>(a, b, d, n);
-}
-
-bool SmallInterleavedF32(const float* src, float* dst, int order, const float* first, bool inv,
-                         bool scaled, float scale) {
-  return SmallInterleaved(src, dst, order, first, inv, scaled, scale);
-}
-bool SmallInterleavedF64(const double* src, double* dst, int order, const double* first, bool inv,
-                         bool scaled, double scale) {
-  return SmallInterleaved(src, dst, order, first, inv, scaled, scale);
+bool SmallInterleavedF64(const double* src, double* dst, int order, const double* first,
+                         const uint32_t* rev, bool inv, bool scaled, double scale) {
+  return SmallInterleaved(src, dst, order, first, rev, inv, scaled, scale);
 }
 
 void FftInterleavedF32(const FftPlan<float>& p, const FftArgs<float>& a) { Run<float, 2>(p, a); }
@@ -1231,23 +1201,14 @@ HWY_EXPORT(FftInterleavedF32);
 HWY_EXPORT(FftInterleavedF64);
 HWY_EXPORT(FftSplitF32);
 HWY_EXPORT(FftSplitF64);
-HWY_EXPORT(MulPairsF32);
-HWY_EXPORT(MulPairsF64);
 
-void mul_pairs(const float* a, const float* b, float* d, std::size_t n, bool conj) {
-  HWY_DYNAMIC_DISPATCH(MulPairsF32)(a, b, d, n, conj);
-}
-void mul_pairs(const double* a, const double* b, double* d, std::size_t n, bool conj) {
-  HWY_DYNAMIC_DISPATCH(MulPairsF64)(a, b, d, n, conj);
-}
-
-bool fft_small_interleaved(const float* src, float* dst, int order, const float* first, bool inv,
-                           bool scaled, float scale) {
-  return HWY_DYNAMIC_DISPATCH(SmallInterleavedF32)(src, dst, order, first, inv, scaled, scale);
+bool fft_small_interleaved(const float* src, float* dst, int order, const float* first,
+                           const std::uint32_t* rev, bool inv, bool scaled, float scale) {
+  return HWY_DYNAMIC_DISPATCH(SmallInterleavedF32)(src, dst, order, first, rev, inv, scaled, scale);
 }
 bool fft_small_interleaved(const double* src, double* dst, int order, const double* first,
-                           bool inv, bool scaled, double scale) {
-  return HWY_DYNAMIC_DISPATCH(SmallInterleavedF64)(src, dst, order, first, inv, scaled, scale);
+                           const std::uint32_t* rev, bool inv, bool scaled, double scale) {
+  return HWY_DYNAMIC_DISPATCH(SmallInterleavedF64)(src, dst, order, first, rev, inv, scaled, scale);
 }
 
 void fft_interleaved(const FftPlan<float>& p, const FftArgs<float>& a) {

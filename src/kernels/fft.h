@@ -75,19 +75,14 @@ void fft_interleaved(const FftPlan<double>& p, const FftArgs<double>& a);
 void fft_split(const FftPlan<float>& p, const FftArgs<float>& a);
 void fft_split(const FftPlan<double>& p, const FftArgs<double>& a);
 
-// Out-of-place interleaved transforms of 16, 32 and 64 points straight from
-// the first-level table of their record, scaled when `scaled`. Returns false
-// (nothing written) when the target has no kernel for them; the engine then
-// runs instead.
-bool fft_small_interleaved(const float* src, float* dst, int order, const float* first, bool inv,
-                           bool scaled, float scale);
+// Out-of-place interleaved transforms of a single leaf (order 4 up to the
+// leaf size) straight from the record's first-level and bit-reversal tables,
+// scaled when `scaled`, without a plan or work area. Returns false (nothing
+// written) when the target has no kernel for them; the engine then runs.
+bool fft_small_interleaved(const float* src, float* dst, int order, const float* first,
+                           const std::uint32_t* rev, bool inv, bool scaled, float scale);
 bool fft_small_interleaved(const double* src, double* dst, int order, const double* first,
-                           bool inv, bool scaled, double scale);
-
-// d[i] = a[i] * b[i] (a[i] * conj(b[i]) when conj) for n interleaved complex
-// values; d may equal a or b. Used by the packed-spectrum products.
-void mul_pairs(const float* a, const float* b, float* d, std::size_t n, bool conj);
-void mul_pairs(const double* a, const double* b, double* d, std::size_t n, bool conj);
+                           const std::uint32_t* rev, bool inv, bool scaled, double scale);
 
 // Offset (in T units) of the stage block of length L inside a first-level
 // table: the sum of 2 * 3L'/4 over the earlier stages L' >= 8.
@@ -139,15 +134,6 @@ template <class T, int S>
 inline T* grp_re(T* w, std::size_t b, int c) { return w + 8 * b + (S == 2 ? 2 * c : c); }
 template <class T, int S>
 inline std::size_t grp_im_off() { return S == 2 ? 1 : 4; }
-
-template <class T>
-void mul_pairs(const T* a, const T* b, T* d, std::size_t n, bool conj) {
-  for (std::size_t i = 0; i < n; ++i) {
-    const Cx<T> v = mul(Cx<T>{a[2 * i], a[2 * i + 1]}, Cx<T>{b[2 * i], b[2 * i + 1]}, conj);
-    d[2 * i] = v.r;
-    d[2 * i + 1] = v.i;
-  }
-}
 
 // Bit reversal of `order` bits through the half table of ceil(order/2) bits.
 struct BitRev {
@@ -443,6 +429,29 @@ void permute(const E* src, E* dst, int order) {
   }
 }
 
+// The radix-4 stages of a leaf of order n after the first pass transformed
+// blocks of `lead` points; `first` is the leaf's first-level table.
+template <class T, class P>
+void leaf_stages(T* re, T* im, int n, std::size_t lead, const T* first, bool inv) {
+  const std::size_t N = std::size_t(1) << n;
+  std::size_t L = 4 * lead;
+  const T* tw = first + stage_offset(n, L);
+  int stages = 0;
+  for (std::size_t l = L; l <= N; l *= 4) ++stages;
+  // An odd number of stages runs the first one alone; the others go in
+  // pairs, each pair one pass over the data.
+  if (stages % 2 == 1) {
+    P::radix4(re, im, N, L, tw, inv);
+    tw += 2 * (3 * L / 4);
+    L *= 4;
+  }
+  for (; L <= N; L *= 16) {
+    const T* tw4 = tw + 2 * (3 * L / 4);
+    P::radix4x2(re, im, N, L, tw, tw4, inv);
+    tw = tw4 + 2 * (3 * L);
+  }
+}
+
 template <class T>
 struct Pair {
   T a, b;
@@ -495,24 +504,8 @@ struct Engine {
   // A leaf of order n: the radix-4 stages after the blocks of lead_ points
   // that the first pass transformed over the whole array, then the scaling.
   void leaf(T* re, T* im, int n) {
-    const std::size_t N = std::size_t(1) << n;
-    std::size_t L = 4 * lead_;
-    const T* tw = p.first + stage_offset(n, L);
-    int stages = 0;
-    for (std::size_t l = L; l <= N; l *= 4) ++stages;
-    // An odd number of stages runs the first one alone; the others go in
-    // pairs, each pair one pass over the data.
-    if (stages % 2 == 1) {
-      P::radix4(re, im, N, L, tw, a.inverse);
-      tw += 2 * (3 * L / 4);
-      L *= 4;
-    }
-    for (; L <= N; L *= 16) {
-      const T* tw4 = tw + 2 * (3 * L / 4);
-      P::radix4x2(re, im, N, L, tw, tw4, a.inverse);
-      tw = tw4 + 2 * (3 * L);
-    }
-    if (a.scaled) P::scale(re, im, N, a.scale);
+    leaf_stages<T, P>(re, im, n, lead_, p.first, a.inverse);
+    if (a.scaled) P::scale(re, im, std::size_t(1) << n, a.scale);
   }
 
   void block(T* re, T* im, int n, int level) {

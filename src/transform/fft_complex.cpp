@@ -55,10 +55,11 @@ KelStatus transform(const void* spec, std::uint32_t id, const Data<T>& d, Kel8u*
     small_transform<T, S>(h->order, d, inv, scaled, h->scale());
     return kelStsOk;
   }
-  // Short interleaved transforms out of place with a caller buffer need no
+  // Single-leaf interleaved transforms out of place with a caller buffer need no
   // work area and no plan.
-  if (S == 2 && h->order <= 6 && buf != nullptr && d.sre != d.dre &&
-      kernels::fft_small_interleaved(d.sre, d.dre, h->order, h->template at<T>(h->twiddle), inv,
+  if (S == 2 && h->order <= leaf_max(sizeof(T) == 8) && buf != nullptr && d.sre != d.dre &&
+      kernels::fft_small_interleaved(d.sre, d.dre, h->order, h->template at<T>(h->twiddle),
+                                     h->template at<std::uint32_t>(h->bitrev), inv,
                                      scaled, h->scale())) {
     return kelStsOk;
   }

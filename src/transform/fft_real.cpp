@@ -107,8 +107,9 @@ void run_complex(const Header<T>* h, int corder, const T* src, T* dst, T* work, 
     }
     return;
   }
-  if (corder <= 6 && src != dst &&
-      kernels::fft_small_interleaved(src, dst, corder, h->template at<T>(h->twiddle), inv, false,
+  if (corder <= leaf_max(dbl) && src != dst &&
+      kernels::fft_small_interleaved(src, dst, corder, h->template at<T>(h->twiddle),
+                                     h->template at<std::uint32_t>(h->bitrev), inv, false,
                                      T(1))) {
     return;
   }
