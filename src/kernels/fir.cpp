@@ -1,7 +1,7 @@
-// FIR inner-product kernels, compiled once per SIMD target by Highway.
-// Four vectors of outputs are accumulated per pass over the taps so that
-// the additions of independent outputs overlap in the pipeline; the tap is
-// broadcast and the input read unaligned at offset n + k.
+// FIR kernels, compiled once per SIMD target by Highway: inner products
+// (several independent accumulators per pass over the taps so that the
+// additions overlap in the pipeline; the tap is broadcast and the input read
+// unaligned at offset n + k) and the spectral step of overlap-save.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "kernels/fir.cpp"
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
@@ -14,6 +14,7 @@ namespace kels::kernels {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
+// One running sum per output (double precision).
 template <class T>
 void FirDotReal(const T* HWY_RESTRICT t, size_t L, const T* HWY_RESTRICT x, T* HWY_RESTRICT y,
                 size_t count) {
@@ -43,12 +44,96 @@ void FirDotReal(const T* HWY_RESTRICT t, size_t L, const T* HWY_RESTRICT x, T* H
   scalar::fir_dot_real(t, L, x + n, y + n, count - n);
 }
 
-void FirDotF32(const float* t, size_t L, const float* x, float* y, size_t count) {
-  FirDotReal(t, L, x, y, count);
+// V vectors of consecutive outputs by the single-precision rule of four
+// partial sums (L >= 4): each output lane keeps its own s0..s3, so the lane
+// performs exactly the operations of scalar::sum_f32; the 4V independent
+// accumulators hide the latency of the additions.
+template <size_t V, class D>
+HWY_INLINE void SumF32Block(D d, const float* HWY_RESTRICT t, size_t L, const float* HWY_RESTRICT x,
+                            float* HWY_RESTRICT y) {
+  const size_t N = hn::Lanes(d);
+  hn::Vec<D> s[V][4];
+  for (size_t v = 0; v < V; ++v) {
+    for (size_t j = 0; j < 4; ++j) s[v][j] = hn::Zero(d);
+  }
+  const size_t L4 = L & ~size_t{3};
+  size_t k = 0;
+  for (; k < L4; k += 4) {
+    for (size_t j = 0; j < 4; ++j) {
+      const auto tk = hn::Set(d, t[k + j]);
+      for (size_t v = 0; v < V; ++v) s[v][j] = hn::Add(s[v][j], hn::Mul(tk, hn::LoadU(d, x + v * N + k + j)));
+    }
+  }
+  if (L - k >= 2) {
+    for (size_t j = 0; j < 2; ++j) {
+      const auto tk = hn::Set(d, t[k + j]);
+      for (size_t v = 0; v < V; ++v) s[v][j] = hn::Add(s[v][j], hn::Mul(tk, hn::LoadU(d, x + v * N + k + j)));
+    }
+    k += 2;
+  }
+  if (k < L) {
+    const auto tk = hn::Set(d, t[k]);
+    for (size_t v = 0; v < V; ++v) s[v][0] = hn::Add(s[v][0], hn::Mul(tk, hn::LoadU(d, x + v * N + k)));
+  }
+  for (size_t v = 0; v < V; ++v) {
+    hn::StoreU(hn::Add(hn::Add(s[v][0], s[v][1]), hn::Add(s[v][2], s[v][3])), d, y + v * N);
+  }
+}
+
+void FirDotF32(const float* HWY_RESTRICT t, size_t L, const float* HWY_RESTRICT x, float* HWY_RESTRICT y,
+               size_t count) {
+  size_t n = 0;
+  if (L >= 4) {
+    const hn::ScalableTag<float> d;
+    const size_t N = hn::Lanes(d);
+    for (; n + 2 * N <= count; n += 2 * N) SumF32Block<2>(d, t, L, x + n, y + n);
+    for (; n + N <= count; n += N) SumF32Block<1>(d, t, L, x + n, y + n);
+  }
+  scalar::fir_dot_f32(t, L, x + n, y + n, count - n);
 }
 void FirDotF64(const double* t, size_t L, const double* x, double* y, size_t count) {
   FirDotReal(t, L, x, y, count);
 }
+
+// Spectral step: the k side is a vector of C = N/2 complex entries from k
+// on, the partner side the C entries ending at m - k; each side reads the
+// other in reversed entry order. Entries 0 and m/2 and the last pairs near
+// m/2 go through the scalar twin.
+#if HWY_TARGET != HWY_SCALAR
+template <class D, class T>
+HWY_INLINE hn::Vec<D> SpectralPart(D d, const T* const tab[4], size_t e, hn::Vec<D> v, hn::Vec<D> w) {
+  const auto a = hn::Add(hn::Mul(hn::LoadU(d, tab[0] + 2 * e), v), hn::Mul(hn::LoadU(d, tab[1] + 2 * e), hn::Reverse2(d, v)));
+  const auto b = hn::Add(hn::Mul(hn::LoadU(d, tab[2] + 2 * e), w), hn::Mul(hn::LoadU(d, tab[3] + 2 * e), hn::Reverse2(d, w)));
+  return hn::Add(a, b);
+}
+// Complex entries in reverse order (the parts of each entry stay in place).
+template <class D>
+HWY_INLINE hn::Vec<D> ReverseEntries(D d, hn::Vec<D> v) {
+  return hn::Reverse2(d, hn::Reverse(d, v));
+}
+#endif
+
+template <class T>
+void FirSpectral(const T* const tab[4], T* HWY_RESTRICT z, size_t m) {
+  scalar::spectral(tab, z, m, 0, 0);
+  size_t k = 1;
+#if HWY_TARGET != HWY_SCALAR
+  const hn::ScalableTag<T> d;
+  const size_t C = hn::Lanes(d) / 2;
+  for (; k + C <= m / 2; k += C) {
+    const size_t j = m - k - (C - 1);
+    const auto v = hn::LoadU(d, z + 2 * k);
+    const auto w = hn::LoadU(d, z + 2 * j);
+    const auto ok = SpectralPart(d, tab, k, v, ReverseEntries(d, w));
+    const auto oj = SpectralPart(d, tab, j, w, ReverseEntries(d, v));
+    hn::StoreU(ok, d, z + 2 * k);
+    hn::StoreU(oj, d, z + 2 * j);
+  }
+#endif
+  scalar::spectral(tab, z, m, k, m / 2);
+}
+void FirSpectralF32(const float* const tab[4], float* z, size_t m) { FirSpectral(tab, z, m); }
+void FirSpectralF64(const double* const tab[4], double* z, size_t m) { FirSpectral(tab, z, m); }
 
 // Complex: a vector holds N/2 interleaved outputs. The products with the
 // real part of the tap and with the imaginary part (on the pair-swapped
@@ -108,6 +193,8 @@ namespace kels::kernels {
 HWY_EXPORT(FirDotF32);
 HWY_EXPORT(FirDotF64);
 HWY_EXPORT(FirDotC32);
+HWY_EXPORT(FirSpectralF32);
+HWY_EXPORT(FirSpectralF64);
 
 void fir_dot_f32(const float* t, std::size_t L, const float* x, float* y, std::size_t count) {
   HWY_DYNAMIC_DISPATCH(FirDotF32)(t, L, x, y, count);
@@ -117,6 +204,13 @@ void fir_dot_f64(const double* t, std::size_t L, const double* x, double* y, std
 }
 void fir_dot_c32(const float* t, std::size_t L, const float* x, float* y, std::size_t count) {
   HWY_DYNAMIC_DISPATCH(FirDotC32)(t, L, x, y, count);
+}
+
+void fir_spectral_f32(const float* const tab[4], float* z, std::size_t m) {
+  HWY_DYNAMIC_DISPATCH(FirSpectralF32)(tab, z, m);
+}
+void fir_spectral_f64(const double* const tab[4], double* z, std::size_t m) {
+  HWY_DYNAMIC_DISPATCH(FirSpectralF64)(tab, z, m);
 }
 
 }  // namespace kels::kernels

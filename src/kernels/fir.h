@@ -3,10 +3,9 @@
 // Every kernel computes count outputs y[n] = sum over k < L of t[k] * x[n+k]
 // (t holds the taps reversed, so the inner product runs forward over memory
 // and x[n+L-1] meets the caller's tap 0). The SIMD kernels vectorise across
-// outputs, not across taps: each output is still summed in the order
-// k = 0, 1, ..., L-1 in the element precision, so every target, the scalar
-// twin and any split of the outputs among threads give bit-identical
-// results.
+// outputs, not across taps: each lane forms its output by exactly the
+// sequence of operations of the scalar twin, so every target, the twin and
+// any split of the outputs among threads give bit-identical results.
 #ifndef KELS_KERNELS_FIR_H
 #define KELS_KERNELS_FIR_H
 
@@ -14,13 +13,93 @@
 
 namespace kels::kernels {
 
+// Single precision by the rule of the one-sample step (scalar::sum_f32).
 void fir_dot_f32(const float* t, std::size_t L, const float* x, float* y, std::size_t count);
+// Double precision: one running sum, k = 0, 1, ..., L-1.
 void fir_dot_f64(const double* t, std::size_t L, const double* x, double* y, std::size_t count);
 // Complex single precision, interleaved (re, im): t holds 2L floats, x
 // 2(count+L-1), y 2count. Each step adds (tr*xr - ti*xi, tr*xi + ti*xr).
 void fir_dot_c32(const float* t, std::size_t L, const float* x, float* y, std::size_t count);
 
+// Overlap-save spectral step on the half-length complex spectrum z of a
+// real block (m = N/2 interleaved complex values, m a power of two >= 2):
+// z'[k] = A[k] z[k] + B[k] conj(z[(m-k) mod m]), in place. The factors come
+// as four tables of m complex-sized entries (see scalar::spectral), built
+// by the filter from its taps' spectrum.
+void fir_spectral_f32(const float* const tab[4], float* z, std::size_t m);
+void fir_spectral_f64(const double* const tab[4], double* z, std::size_t m);
+
 namespace scalar {
+
+// One output of the single-precision rule: below four taps the products are
+// summed in extended precision; from four taps on, four running
+// single-precision partial sums (partial sum j takes the products whose
+// index is j modulo 4), the 2- and 1-element tails going to the first
+// partial sums, combined as (s0 + s1) + (s2 + s3).
+inline float sum_f32(const float* t, std::size_t L, const float* x) {
+  if (L < 4) {
+    long double s = 0;
+    for (std::size_t k = 0; k < L; ++k) s += static_cast<long double>(t[k]) * x[k];
+    return static_cast<float>(s);
+  }
+  float s0 = 0, s1 = 0, s2 = 0, s3 = 0;
+  std::size_t k = 0;
+  for (; k + 4 <= L; k += 4) {
+    s0 = s0 + t[k] * x[k];
+    s1 = s1 + t[k + 1] * x[k + 1];
+    s2 = s2 + t[k + 2] * x[k + 2];
+    s3 = s3 + t[k + 3] * x[k + 3];
+  }
+  if (L - k >= 2) {
+    s0 = s0 + t[k] * x[k];
+    s1 = s1 + t[k + 1] * x[k + 1];
+    k += 2;
+  }
+  if (k < L) s0 = s0 + t[k] * x[k];
+  return (s0 + s1) + (s2 + s3);
+}
+
+inline void fir_dot_f32(const float* t, std::size_t L, const float* x, float* y, std::size_t count) {
+  for (std::size_t n = 0; n < count; ++n) y[n] = sum_f32(t, L, x + n);
+}
+
+// The spectral step, part by part: with v = z[e] and w = z[(m-e) mod m],
+//   z'[e] = (T0[e] v + T1[e] swap(v)) + (T2[e] w + T3[e] swap(w)),
+// swap exchanging the real and imaginary parts, products taken part by part
+// (tab[i] holds T_i[e] at 2e, 2e+1). T0, T1 carry A[e] and T2, T3 carry
+// B[e] with the conjugation of w folded in. Entries e and m-e are updated
+// together, so the step works in place; k runs over [from, to], to <= m/2.
+template <class T>
+inline void spectral_part(const T* const tab[4], std::size_t e, const T* v, const T* w, T* out) {
+  for (int c = 0; c < 2; ++c) {
+    const T a = tab[0][2 * e + c] * v[c] + tab[1][2 * e + c] * v[1 - c];
+    const T b = tab[2][2 * e + c] * w[c] + tab[3][2 * e + c] * w[1 - c];
+    out[c] = a + b;
+  }
+}
+
+template <class T>
+inline void spectral(const T* const tab[4], T* z, std::size_t m, std::size_t from, std::size_t to) {
+  for (std::size_t k = from; k <= to; ++k) {
+    const std::size_t j = (m - k) % m;
+    const T v[2] = {z[2 * k], z[2 * k + 1]};
+    const T w[2] = {z[2 * j], z[2 * j + 1]};
+    T ok[2], oj[2];
+    spectral_part(tab, k, v, w, ok);
+    if (j != k) {
+      spectral_part(tab, j, w, v, oj);
+      z[2 * j] = oj[0];
+      z[2 * j + 1] = oj[1];
+    }
+    z[2 * k] = ok[0];
+    z[2 * k + 1] = ok[1];
+  }
+}
+
+inline void fir_spectral_f32(const float* const tab[4], float* z, std::size_t m) { spectral(tab, z, m, 0, m / 2); }
+inline void fir_spectral_f64(const double* const tab[4], double* z, std::size_t m) {
+  spectral(tab, z, m, 0, m / 2);
+}
 
 template <class T>
 void fir_dot_real(const T* t, std::size_t L, const T* x, T* y, std::size_t count) {
