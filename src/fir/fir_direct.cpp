@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "fir/fir_arith.h"
+#include "kernels/fir.h"
 #include "frame/common.h"
 #include "frame/scale.h"
 
@@ -83,6 +84,12 @@ Data direct_sum(const Tap* taps, int L, const Data* x, int sf, int factor) {
   }
 }
 
+// Outputs of the single-precision caller-held form checked at a time for
+// sums exact in double precision: a short piece keeps the exponent range
+// of its inputs narrow (so more pieces pass) at the cost of rescanning the
+// L - 1 inputs the pieces share.
+constexpr int kExactPiece = 256;
+
 // Four consecutive single-precision outputs whose spans start at x, x+1,
 // x+2, x+3: the same sums as direct_sum, with four independent
 // extended-precision accumulators so their additions overlap.
@@ -138,7 +145,24 @@ void direct_block_run(const Data* src, Data* dst, int n, const Tap* taps, int L,
   direct_run(src, dst, head, taps, L, d, index, sf, factor);
   int j = head;
   if constexpr (std::is_same_v<Tap, Kel32f> && std::is_same_v<Data, Kel32f>) {
-    for (; j + 4 <= n; j += 4) direct_sum4_32f(taps, L, src + (j - L + 1), dst + j);
+    // Pieces whose sums are exact in double precision (checked from the
+    // exponent ranges of the taps and of the piece's inputs) take the SIMD
+    // double-precision kernel, which then rounds the same exact value; the
+    // others keep the extended-precision accumulation.
+    const kernels::ExponentRange tr = kernels::exponent_range(taps, static_cast<std::size_t>(L));
+    while (j < n) {
+      const int c = n - j < kExactPiece ? n - j : kExactPiece;
+      const Kel32f* x = src + (j - L + 1);
+      const std::size_t span = static_cast<std::size_t>(c + L - 1);
+      if (kernels::sum_exact_in_double(tr, kernels::exponent_range(x, span), static_cast<std::size_t>(L))) {
+        kernels::fir_sum_exact_f32(taps, static_cast<std::size_t>(L), x, dst + j, static_cast<std::size_t>(c));
+        j += c;
+        continue;
+      }
+      const int end = j + c;
+      for (; j + 4 <= end; j += 4) direct_sum4_32f(taps, L, src + (j - L + 1), dst + j);
+      for (; j < end; ++j) dst[j] = direct_sum(taps, L, src + (j - L + 1), sf, factor);
+    }
   }
   for (; j < n; ++j) dst[j] = direct_sum(taps, L, src + (j - L + 1), sf, factor);
   for (j = n - L > head ? n - L : head; j < n; ++j) {

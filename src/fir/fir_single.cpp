@@ -182,31 +182,48 @@ template <class M> using fft_api = std::conditional_t<std::is_same_v<M, M32f>, F
 template <class M> using fft_t = typename fft_api<M>::F;
 
 // Areas of the FFT method behind the record, in one allocation: the four
-// factor tables of the spectral step (N values each), per-thread statuses,
-// per-thread N-value blocks, per-thread FFT work buffers (each rounded up
-// to 16 bytes).
+// factor tables of the spectral step (N values each), then per thread a
+// status, an N-value block and an FFT work buffer. Per-thread areas are
+// rounded up to whole cache lines plus one spare line, so whatever the
+// alignment of the record no two threads ever write to the same line.
+constexpr std::uint64_t thread_stride(std::uint64_t bytes) { return ((bytes + 63) & ~std::uint64_t{63}) + 64; }
+
 struct FftLayout {
-  std::uint64_t taps, status, blocks, work, work_stride, end;
+  std::uint64_t taps, status, blocks, work, end;
 };
 template <class M>
+std::uint64_t fft_block_stride(int N) {
+  return thread_stride(static_cast<std::uint64_t>(N) * sizeof(fft_t<M>));
+}
+template <class M>
 FftLayout fft_layout(std::uint64_t start, int N, int threads, int buf_size) {
+  const std::uint64_t T = static_cast<std::uint64_t>(threads);
   FftLayout f{};
   f.taps = r16(start);
   f.status = f.taps + 4 * r16(static_cast<std::uint64_t>(N) * sizeof(fft_t<M>));
-  f.blocks = f.status + r16(static_cast<std::uint64_t>(threads) * sizeof(int));
-  f.work = f.blocks + static_cast<std::uint64_t>(threads) * r16(static_cast<std::uint64_t>(N) * sizeof(fft_t<M>));
-  f.work_stride = r16(static_cast<std::uint64_t>(buf_size < 0 ? 0 : buf_size));
-  f.end = f.work + static_cast<std::uint64_t>(threads) * f.work_stride;
+  f.blocks = f.status + T * thread_stride(sizeof(int));
+  f.work = f.blocks + T * fft_block_stride<M>(N);
+  f.end = f.work + T * thread_stride(static_cast<std::uint64_t>(buf_size < 0 ? 0 : buf_size));
   return f;
 }
 
-// FFT work buffer of thread t (null when the transform needs none).
+// Per-thread areas of thread t: status, block, FFT work buffer (null when
+// the transform needs none).
+template <class M>
+int* fft_status_of(Record* r, int t) {
+  const std::uint64_t taps_bytes = 4 * r16(static_cast<std::uint64_t>(r->fft_len) * sizeof(fft_t<M>));
+  return area<int>(r, r->fft_taps + static_cast<std::uint32_t>(taps_bytes + static_cast<std::uint64_t>(t) * thread_stride(sizeof(int))));
+}
+template <class M>
+fft_t<M>* fft_block_of(Record* r, int t) {
+  return area<fft_t<M>>(r, r->fft_blocks + static_cast<std::uint32_t>(static_cast<std::uint64_t>(t) * fft_block_stride<M>(r->fft_len)));
+}
 template <class M>
 Kel8u* fft_work_of(Record* r, int t) {
   int size = 0;
   fft_api<M>::buf_size(r->fft_spec, &size);
   if (size <= 0) return nullptr;
-  return area<Kel8u>(r, r->fft_work) + static_cast<std::size_t>(t) * r16(static_cast<std::uint64_t>(size));
+  return area<Kel8u>(r, r->fft_work) + static_cast<std::size_t>(t) * thread_stride(static_cast<std::uint64_t>(size));
 }
 
 // Factor tables of the spectral step from the half-length spectrum zh of
@@ -265,7 +282,7 @@ KelStatus fft_prepare_taps(Record* r) {
   using F = fft_t<M>;
   const int L = r->taps_len;
   const int N = r->fft_len;
-  F* z = area<F>(r, r->fft_blocks);
+  F* z = fft_block_of<M>(r, 0);
   const tap_t<M>* t = area<tap_t<M>>(r, r->taps);
   for (int k = 0; k < L; ++k) z[k] = static_cast<F>(t[L - 1 - k]);
   zero_n(z + L, N - L);
@@ -353,7 +370,7 @@ KelStatus fft_block(Record* r, const data_t<M>* src, data_t<M>* dst, int n, int 
   const int S = N - hist;
   D* dly = area<D>(r, r->dly);
   D* h = dly + r->dly_index;
-  F* b = area<F>(r, r->fft_blocks);
+  F* b = fft_block_of<M>(r, 0);
   Kel8u* w = fft_work_of<M>(r, 0);
   fft_load<M>(h + 1, b, hist);
   if (n <= S) {
@@ -382,23 +399,21 @@ KelStatus fft_block(Record* r, const data_t<M>* src, data_t<M>* dst, int n, int 
     for (int j = 0; j < blocks; ++j) KELS_RETURN_IF_ERROR(fft_one_block<M>(r, in, out, R, j * S, b, w, sf));
     return kelStsOk;
   }
-  int* status = area<int>(r, r->fft_taps + static_cast<std::uint32_t>(4 * r16(static_cast<std::uint64_t>(N) * sizeof(F))));
-  for (int t = 0; t < threads; ++t) status[t] = kelStsOk;
-  const std::size_t block_stride = static_cast<std::size_t>(r16(static_cast<std::uint64_t>(N) * sizeof(F)) / sizeof(F));
+  for (int t = 0; t < threads; ++t) *fft_status_of<M>(r, t) = kelStsOk;
 #pragma omp parallel num_threads(threads)
   {
     const std::int64_t nt = omp_get_num_threads();
     const int id = omp_get_thread_num();
     const int lo = static_cast<int>(blocks * id / nt);
     const int hi = static_cast<int>(blocks * (id + 1) / nt);
-    F* bt = b + block_stride * static_cast<std::size_t>(id);
+    F* bt = fft_block_of<M>(r, id);
     Kel8u* wt = fft_work_of<M>(r, id);
     int st = kelStsOk;
     for (int j = lo; j < hi && st >= 0; ++j) st = fft_one_block<M>(r, in, out, R, j * S, bt, wt, sf);
-    status[id] = st;
+    *fft_status_of<M>(r, id) = st;
   }
   int worst = kelStsOk;
-  for (int t = 0; t < threads; ++t) worst = std::min(worst, status[t]);
+  for (int t = 0; t < threads; ++t) worst = std::min(worst, *fft_status_of<M>(r, t));
   return static_cast<KelStatus>(worst);
 }
 

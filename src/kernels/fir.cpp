@@ -95,6 +95,34 @@ void FirDotF64(const double* t, size_t L, const double* x, double* y, size_t cou
   FirDotReal(t, L, x, y, count);
 }
 
+// Caller-held single-precision sums in double precision, V vectors of
+// outputs per pass: the products are formed in single precision (so each is
+// rounded as the rule says) and widened; the order of the additions does not
+// matter because the caller only uses this where they are exact.
+template <size_t V, class DD>
+HWY_INLINE void SumExactBlock(DD dd, const float* HWY_RESTRICT taps, size_t L, const float* HWY_RESTRICT x,
+                              float* HWY_RESTRICT y) {
+  const hn::Rebind<float, DD> df;
+  const size_t N = hn::Lanes(dd);
+  hn::Vec<DD> s[V];
+  for (size_t v = 0; v < V; ++v) s[v] = hn::Zero(dd);
+  for (size_t k = 0; k < L; ++k) {
+    const auto tk = hn::Set(df, taps[L - 1 - k]);
+    for (size_t v = 0; v < V; ++v) s[v] = hn::Add(s[v], hn::PromoteTo(dd, hn::Mul(tk, hn::LoadU(df, x + v * N + k))));
+  }
+  for (size_t v = 0; v < V; ++v) hn::StoreU(hn::DemoteTo(df, s[v]), df, y + v * N);
+}
+
+void FirSumExactF32(const float* HWY_RESTRICT taps, size_t L, const float* HWY_RESTRICT x, float* HWY_RESTRICT y,
+                    size_t count) {
+  const hn::ScalableTag<double> dd;
+  const size_t N = hn::Lanes(dd);
+  size_t n = 0;
+  for (; n + 4 * N <= count; n += 4 * N) SumExactBlock<4>(dd, taps, L, x + n, y + n);
+  for (; n + N <= count; n += N) SumExactBlock<1>(dd, taps, L, x + n, y + n);
+  scalar::fir_sum_exact_f32(taps, L, x + n, y + n, count - n);
+}
+
 // Spectral step: the k side is a vector of C = N/2 complex entries from k
 // on, the partner side the C entries ending at m - k; each side reads the
 // other in reversed entry order. Entries 0 and m/2 and the last pairs near
@@ -194,6 +222,7 @@ HWY_EXPORT(FirDotF32);
 HWY_EXPORT(FirDotF64);
 HWY_EXPORT(FirDotC32);
 HWY_EXPORT(FirSpectralF32);
+HWY_EXPORT(FirSumExactF32);
 HWY_EXPORT(FirSpectralF64);
 
 void fir_dot_f32(const float* t, std::size_t L, const float* x, float* y, std::size_t count) {
@@ -206,6 +235,9 @@ void fir_dot_c32(const float* t, std::size_t L, const float* x, float* y, std::s
   HWY_DYNAMIC_DISPATCH(FirDotC32)(t, L, x, y, count);
 }
 
+void fir_sum_exact_f32(const float* taps, std::size_t L, const float* x, float* y, std::size_t count) {
+  HWY_DYNAMIC_DISPATCH(FirSumExactF32)(taps, L, x, y, count);
+}
 void fir_spectral_f32(const float* const tab[4], float* z, std::size_t m) {
   HWY_DYNAMIC_DISPATCH(FirSpectralF32)(tab, z, m);
 }

@@ -10,6 +10,8 @@
 #define KELS_KERNELS_FIR_H
 
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 
 namespace kels::kernels {
 
@@ -21,6 +23,15 @@ void fir_dot_f64(const double* t, std::size_t L, const double* x, double* y, std
 // 2(count+L-1), y 2count. Each step adds (tr*xr - ti*xi, tr*xi + ti*xr).
 void fir_dot_c32(const float* t, std::size_t L, const float* x, float* y, std::size_t count);
 
+// Caller-held single-precision form where its sums are exact in double
+// precision: y[n] = the sum over k < L of fl(taps[L-1-k] * x[n+k]) (each
+// product rounded to single precision), formed in double precision and
+// rounded to single once; taps are in the caller's order. Equal to the
+// extended-precision rule of that form whenever every partial sum is exact
+// in double precision (sum_exact_in_double says when), since both then round
+// the same exact value once.
+void fir_sum_exact_f32(const float* taps, std::size_t L, const float* x, float* y, std::size_t count);
+
 // Overlap-save spectral step on the half-length complex spectrum z of a
 // real block (m = N/2 interleaved complex values, m a power of two >= 2):
 // z'[k] = A[k] z[k] + B[k] conj(z[(m-k) mod m]), in place. The factors come
@@ -28,6 +39,45 @@ void fir_dot_c32(const float* t, std::size_t L, const float* x, float* y, std::s
 // by the filter from its taps' spectrum.
 void fir_spectral_f32(const float* const tab[4], float* z, std::size_t m);
 void fir_spectral_f64(const double* const tab[4], double* z, std::size_t m);
+
+// Biased exponent fields of the nonzero values of v, lowest and highest
+// (255 and 0 when all are zero), and whether every value is zero or normal
+// (no subnormal, infinity or NaN).
+struct ExponentRange {
+  std::uint32_t lo, hi;
+  bool normal;
+};
+inline ExponentRange exponent_range(const float* v, std::size_t n) {
+  std::uint32_t lo = 255, hi = 0, odd = 0;
+  for (std::size_t i = 0; i < n; ++i) {
+    std::uint32_t u;
+    std::memcpy(&u, v + i, sizeof u);
+    u &= 0x7fffffffu;
+    const std::uint32_t f = u >> 23;
+    hi = f > hi ? f : hi;
+    const std::uint32_t g = u == 0 ? 255u : f;
+    lo = g < lo ? g : lo;
+    odd |= static_cast<std::uint32_t>((f == 0 && u != 0) || f == 255);
+  }
+  return {lo, hi, odd == 0};
+}
+
+// True when, for L products fl(t * x) of taps in exponent range a and data
+// in range b, every partial sum is exact in double precision and no product
+// overflows. Nonzero products lie in [2^(ea+eb), 2^(Ea+Eb+2)] (e lowest,
+// E highest unbiased exponents), so all are multiples of 2^q with
+// q = max(ea + eb - 23, -149) and every partial sum is at most
+// L 2^(Ea+Eb+2) in magnitude; it is exact when that is at most 2^(q+53).
+inline bool sum_exact_in_double(ExponentRange a, ExponentRange b, std::size_t L) {
+  if (!a.normal || !b.normal || a.lo == 255 || b.lo == 255) return false;
+  const int lo = static_cast<int>(a.lo + b.lo) - 254;
+  const int hi = static_cast<int>(a.hi + b.hi) - 254 + 2;
+  if (hi > 127) return false;
+  const int q = lo - 23 < -149 ? -149 : lo - 23;
+  int lg = 0;
+  while ((std::size_t{1} << lg) < L) ++lg;
+  return lg + hi - q <= 53;
+}
 
 namespace scalar {
 
@@ -61,6 +111,14 @@ inline float sum_f32(const float* t, std::size_t L, const float* x) {
 
 inline void fir_dot_f32(const float* t, std::size_t L, const float* x, float* y, std::size_t count) {
   for (std::size_t n = 0; n < count; ++n) y[n] = sum_f32(t, L, x + n);
+}
+
+inline void fir_sum_exact_f32(const float* taps, std::size_t L, const float* x, float* y, std::size_t count) {
+  for (std::size_t n = 0; n < count; ++n) {
+    double s = 0;
+    for (std::size_t k = 0; k < L; ++k) s = s + static_cast<double>(static_cast<float>(taps[L - 1 - k] * x[n + k]));
+    y[n] = static_cast<float>(s);
+  }
 }
 
 // The spectral step, part by part: with v = z[e] and w = z[(m-e) mod m],

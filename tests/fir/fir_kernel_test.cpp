@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <limits>
 #include <random>
 #include <vector>
 
@@ -45,6 +46,75 @@ TEST(FirKernels, RealDoubleEqualsTwin) {
 }
 TEST(FirKernels, ComplexSingleEqualsTwin) {
   compare<float>(kernels::fir_dot_c32, kernels::scalar::fir_dot_c32, 2);
+}
+
+// The double-precision sums of the caller-held single-precision form equal
+// the extended-precision rule bit for bit whenever sum_exact_in_double
+// admits the data. Taps and inputs get full 24-bit mantissas and exponents
+// spread over ranges around the admission limit, so admitted cases sit on
+// both sides of it.
+long double extended_rule(const float* taps, std::size_t L, const float* x) {
+  long double s = 0;
+  for (std::size_t k = 0; k < L; ++k) s += static_cast<float>(taps[L - 1 - k] * x[k]);
+  return s;
+}
+
+TEST(FirKernels, ExactDoubleSumsEqualTheExtendedRule) {
+  std::mt19937 g(53);
+  std::uniform_int_distribution<std::uint32_t> mant(0, (1u << 23) - 1);
+  auto value = [&](int spread, int base) {
+    const int e = base + static_cast<int>(g() % static_cast<std::uint32_t>(spread + 1));
+    const std::uint32_t bits = (static_cast<std::uint32_t>(e + 127) << 23) | mant(g) | ((g() & 1u) << 31);
+    float v;
+    std::memcpy(&v, &bits, sizeof v);
+    return v;
+  };
+  int admitted = 0, refused = 0;
+  for_each_target([&](const std::string& target) {
+    for (int trial = 0; trial < 300; ++trial) {
+      const std::size_t L = 1 + g() % 70;
+      const int count = 1 + static_cast<int>(g() % 40);
+      const int st = static_cast<int>(g() % 20), sx = static_cast<int>(g() % 20);
+      std::vector<float> taps(L), x(L - 1 + static_cast<std::size_t>(count)), y(static_cast<std::size_t>(count));
+      for (auto& v : taps) v = value(st, -4);
+      for (auto& v : x) v = value(sx, -10);
+      const bool ok = kernels::sum_exact_in_double(kernels::exponent_range(taps.data(), L),
+                                                   kernels::exponent_range(x.data(), x.size()), L);
+      ok ? ++admitted : ++refused;
+      if (!ok) continue;
+      kernels::fir_sum_exact_f32(taps.data(), L, x.data(), y.data(), static_cast<std::size_t>(count));
+      for (int n = 0; n < count; ++n) {
+        const float want = static_cast<float>(extended_rule(taps.data(), L, x.data() + n));
+        ASSERT_EQ(std::memcmp(&y[static_cast<std::size_t>(n)], &want, sizeof want), 0)
+            << target << " L=" << L << " n=" << n << " spreads " << st << "," << sx;
+      }
+    }
+  });
+  EXPECT_GT(admitted, 100);
+  EXPECT_GT(refused, 100);
+}
+
+TEST(FirKernels, ExactSumAdmission) {
+  const float one[4] = {1, 1.5f, -1.25f, 1};
+  const float tiny[2] = {1, 0x1p-30f};
+  const float odd[3] = {1, 1e-40f, 1};  // a subnormal
+  const float inf[2] = {1, std::numeric_limits<float>::infinity()};
+  const float zero[2] = {0, -0.0f};
+  const auto r1 = kernels::exponent_range(one, 4);
+  EXPECT_EQ(r1.lo, 127u);
+  EXPECT_EQ(r1.hi, 127u);
+  EXPECT_TRUE(kernels::sum_exact_in_double(r1, r1, 4));
+  // Products from 2^-30 up to 2^2, on a grid of 2^-53, four of them: 57 bits.
+  EXPECT_FALSE(kernels::sum_exact_in_double(r1, kernels::exponent_range(tiny, 2), 4));
+  EXPECT_FALSE(kernels::exponent_range(odd, 3).normal);
+  EXPECT_FALSE(kernels::exponent_range(inf, 2).normal);
+  EXPECT_FALSE(kernels::sum_exact_in_double(r1, kernels::exponent_range(zero, 2), 4));
+  // Products from 2^-26 up to 2^2 on a grid of 2^-49: 51 bits, plus
+  // ceil(log2 L) for the sum, so at most 4 terms.
+  const float wide[2] = {1, 0x1p-26f};
+  const auto rw = kernels::exponent_range(wide, 2);
+  EXPECT_TRUE(kernels::sum_exact_in_double(r1, rw, 4));
+  EXPECT_FALSE(kernels::sum_exact_in_double(r1, rw, 5));
 }
 
 // The spectral step of overlap-save on random tables: every target equals
