@@ -150,11 +150,12 @@ void direct_block_run(const Data* src, Data* dst, int n, const Tap* taps, int L,
     // double-precision kernel, which then rounds the same exact value; the
     // others keep the extended-precision accumulation.
     const kernels::ExponentRange tr = kernels::exponent_range(taps, static_cast<std::size_t>(L));
+    const double tsum = kernels::abs_sum(taps, static_cast<std::size_t>(L));
     while (j < n) {
       const int c = n - j < kExactPiece ? n - j : kExactPiece;
       const Kel32f* x = src + (j - L + 1);
       const std::size_t span = static_cast<std::size_t>(c + L - 1);
-      if (kernels::sum_exact_in_double(tr, kernels::exponent_range(x, span), static_cast<std::size_t>(L))) {
+      if (kernels::sum_exact_in_double(tr, tsum, kernels::exponent_range(x, span))) {
         kernels::fir_sum_exact_f32(taps, static_cast<std::size_t>(L), x, dst + j, static_cast<std::size_t>(c));
         j += c;
         continue;

@@ -9,6 +9,7 @@
 #ifndef KELS_KERNELS_FIR_H
 #define KELS_KERNELS_FIR_H
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -28,7 +29,7 @@ void fir_dot_c32(const float* t, std::size_t L, const float* x, float* y, std::s
 // product rounded to single precision), formed in double precision and
 // rounded to single once; taps are in the caller's order. Equal to the
 // extended-precision rule of that form whenever every partial sum is exact
-// in double precision (sum_exact_in_double says when), since both then round
+// in double precision (sum_exact_in_double tells), since both then round
 // the same exact value once.
 void fir_sum_exact_f32(const float* taps, std::size_t L, const float* x, float* y, std::size_t count);
 
@@ -62,21 +63,27 @@ inline ExponentRange exponent_range(const float* v, std::size_t n) {
   return {lo, hi, odd == 0};
 }
 
-// True when, for L products fl(t * x) of taps in exponent range a and data
-// in range b, every partial sum is exact in double precision and no product
-// overflows. Nonzero products lie in [2^(ea+eb), 2^(Ea+Eb+2)] (e lowest,
-// E highest unbiased exponents), so all are multiples of 2^q with
-// q = max(ea + eb - 23, -149) and every partial sum is at most
-// L 2^(Ea+Eb+2) in magnitude; it is exact when that is at most 2^(q+53).
-inline bool sum_exact_in_double(ExponentRange a, ExponentRange b, std::size_t L) {
+// True when every partial sum of the products fl(t[k] * x[k']) of taps in
+// exponent range a, whose magnitudes add up to at most taps_abs_sum, and
+// data in range b is exact in double precision and no product overflows.
+// Nonzero products are at least 2^(ea+eb) (e: lowest unbiased exponent), so
+// all are multiples of 2^q, q = max(ea + eb - 23, -149); every partial sum
+// is at most sum |t| * 2^(Eb+1) * (1 + 2^-24) (E: highest exponent), and it
+// is exact when that is at most 2^(q+53). The margin 2^-20 also covers the
+// rounding of taps_abs_sum.
+inline bool sum_exact_in_double(ExponentRange a, double taps_abs_sum, ExponentRange b) {
   if (!a.normal || !b.normal || a.lo == 255 || b.lo == 255) return false;
+  if (static_cast<int>(a.hi + b.hi) - 254 + 2 > 127) return false;
   const int lo = static_cast<int>(a.lo + b.lo) - 254;
-  const int hi = static_cast<int>(a.hi + b.hi) - 254 + 2;
-  if (hi > 127) return false;
   const int q = lo - 23 < -149 ? -149 : lo - 23;
-  int lg = 0;
-  while ((std::size_t{1} << lg) < L) ++lg;
-  return lg + hi - q <= 53;
+  const double bound = std::ldexp(taps_abs_sum * (1 + 0x1p-20), static_cast<int>(b.hi) - 127 + 1);
+  return bound <= std::ldexp(1.0, q + 53);
+}
+
+inline double abs_sum(const float* v, std::size_t n) {
+  double s = 0;
+  for (std::size_t i = 0; i < n; ++i) s += std::fabs(static_cast<double>(v[i]));
+  return s;
 }
 
 namespace scalar {

@@ -79,7 +79,8 @@ TEST(FirKernels, ExactDoubleSumsEqualTheExtendedRule) {
       for (auto& v : taps) v = value(st, -4);
       for (auto& v : x) v = value(sx, -10);
       const bool ok = kernels::sum_exact_in_double(kernels::exponent_range(taps.data(), L),
-                                                   kernels::exponent_range(x.data(), x.size()), L);
+                                                   kernels::abs_sum(taps.data(), L),
+                                                   kernels::exponent_range(x.data(), x.size()));
       ok ? ++admitted : ++refused;
       if (!ok) continue;
       kernels::fir_sum_exact_f32(taps.data(), L, x.data(), y.data(), static_cast<std::size_t>(count));
@@ -103,18 +104,24 @@ TEST(FirKernels, ExactSumAdmission) {
   const auto r1 = kernels::exponent_range(one, 4);
   EXPECT_EQ(r1.lo, 127u);
   EXPECT_EQ(r1.hi, 127u);
-  EXPECT_TRUE(kernels::sum_exact_in_double(r1, r1, 4));
-  // Products from 2^-30 up to 2^2, on a grid of 2^-53, four of them: 57 bits.
-  EXPECT_FALSE(kernels::sum_exact_in_double(r1, kernels::exponent_range(tiny, 2), 4));
+  EXPECT_EQ(kernels::abs_sum(one, 4), 4.75);
+  EXPECT_TRUE(kernels::sum_exact_in_double(r1, 4.75, r1));
+  // Products on a grid of 2^-53 (2^-30 times a 24-bit mantissa), sums up to
+  // 4.75 * 2: more than 53 bits.
+  EXPECT_FALSE(kernels::sum_exact_in_double(r1, 4.75, kernels::exponent_range(tiny, 2)));
   EXPECT_FALSE(kernels::exponent_range(odd, 3).normal);
   EXPECT_FALSE(kernels::exponent_range(inf, 2).normal);
-  EXPECT_FALSE(kernels::sum_exact_in_double(r1, kernels::exponent_range(zero, 2), 4));
-  // Products from 2^-26 up to 2^2 on a grid of 2^-49: 51 bits, plus
-  // ceil(log2 L) for the sum, so at most 4 terms.
+  EXPECT_FALSE(kernels::sum_exact_in_double(r1, 4.75, kernels::exponent_range(zero, 2)));
+  // Grid 2^-49 (inputs down to 2^-26): the sums may reach 2^4, so taps whose
+  // magnitudes add up to just under 8 pass and just over 8 do not.
   const float wide[2] = {1, 0x1p-26f};
   const auto rw = kernels::exponent_range(wide, 2);
-  EXPECT_TRUE(kernels::sum_exact_in_double(r1, rw, 4));
-  EXPECT_FALSE(kernels::sum_exact_in_double(r1, rw, 5));
+  EXPECT_TRUE(kernels::sum_exact_in_double(r1, 7.99, rw));
+  EXPECT_FALSE(kernels::sum_exact_in_double(r1, 8.01, rw));
+  // Products that could overflow single precision.
+  const float big[1] = {0x1p63f};
+  const auto rb = kernels::exponent_range(big, 1);
+  EXPECT_FALSE(kernels::sum_exact_in_double(rb, 0x1p63, rb));
 }
 
 // The spectral step of overlap-save on random tables: every target equals
