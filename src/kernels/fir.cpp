@@ -123,6 +123,26 @@ void FirSumExactF32(const float* HWY_RESTRICT taps, size_t L, const float* HWY_R
   scalar::fir_sum_exact_f32(taps, L, x + n, y + n, count - n);
 }
 
+// Smallest nonzero and largest magnitude bit patterns of v.
+void FirMagnitudeBits(const float* HWY_RESTRICT v, size_t n, uint32_t* min_nonzero, uint32_t* max_bits) {
+  const hn::ScalableTag<uint32_t> du;
+  const size_t N = hn::Lanes(du);
+  const auto mask = hn::Set(du, 0x7fffffffu);
+  const auto none = hn::Set(du, 0xffffffffu);
+  auto lo = none, hi = hn::Zero(du);
+  const uint32_t* p = reinterpret_cast<const uint32_t*>(v);
+  size_t i = 0;
+  for (; i + N <= n; i += N) {
+    const auto u = hn::And(hn::LoadU(du, p + i), mask);
+    hi = hn::Max(hi, u);
+    lo = hn::Min(lo, hn::IfThenElse(hn::Eq(u, hn::Zero(du)), none, u));
+  }
+  uint32_t l = hn::GetLane(hn::MinOfLanes(du, lo)), h = hn::GetLane(hn::MaxOfLanes(du, hi));
+  scalar::magnitude_bits(v + i, n - i, &l, &h);
+  *min_nonzero = l;
+  *max_bits = h;
+}
+
 // Spectral step: the k side is a vector of C = N/2 complex entries from k
 // on, the partner side the C entries ending at m - k; each side reads the
 // other in reversed entry order. Entries 0 and m/2 and the last pairs near
@@ -223,6 +243,7 @@ HWY_EXPORT(FirDotF64);
 HWY_EXPORT(FirDotC32);
 HWY_EXPORT(FirSpectralF32);
 HWY_EXPORT(FirSumExactF32);
+HWY_EXPORT(FirMagnitudeBits);
 HWY_EXPORT(FirSpectralF64);
 
 void fir_dot_f32(const float* t, std::size_t L, const float* x, float* y, std::size_t count) {
@@ -235,6 +256,11 @@ void fir_dot_c32(const float* t, std::size_t L, const float* x, float* y, std::s
   HWY_DYNAMIC_DISPATCH(FirDotC32)(t, L, x, y, count);
 }
 
+ExponentRange exponent_range(const float* v, std::size_t n) {
+  std::uint32_t lo = 0, hi = 0;
+  HWY_DYNAMIC_DISPATCH(FirMagnitudeBits)(v, n, &lo, &hi);
+  return exponent_range_of(lo, hi);
+}
 void fir_sum_exact_f32(const float* taps, std::size_t L, const float* x, float* y, std::size_t count) {
   HWY_DYNAMIC_DISPATCH(FirSumExactF32)(taps, L, x, y, count);
 }

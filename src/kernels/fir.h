@@ -43,25 +43,19 @@ void fir_spectral_f64(const double* const tab[4], double* z, std::size_t m);
 
 // Biased exponent fields of the nonzero values of v, lowest and highest
 // (255 and 0 when all are zero), and whether every value is zero or normal
-// (no subnormal, infinity or NaN).
+// (no subnormal, infinity or NaN). Found from the smallest nonzero and the
+// largest magnitude bit patterns.
 struct ExponentRange {
   std::uint32_t lo, hi;
   bool normal;
 };
-inline ExponentRange exponent_range(const float* v, std::size_t n) {
-  std::uint32_t lo = 255, hi = 0, odd = 0;
-  for (std::size_t i = 0; i < n; ++i) {
-    std::uint32_t u;
-    std::memcpy(&u, v + i, sizeof u);
-    u &= 0x7fffffffu;
-    const std::uint32_t f = u >> 23;
-    hi = f > hi ? f : hi;
-    const std::uint32_t g = u == 0 ? 255u : f;
-    lo = g < lo ? g : lo;
-    odd |= static_cast<std::uint32_t>((f == 0 && u != 0) || f == 255);
-  }
-  return {lo, hi, odd == 0};
+inline ExponentRange exponent_range_of(std::uint32_t min_nonzero, std::uint32_t max_bits) {
+  const bool any = min_nonzero != 0xffffffffu;
+  return {any ? min_nonzero >> 23 : 255u, max_bits >> 23,
+          max_bits < 0x7f800000u && (!any || min_nonzero >= 0x00800000u)};
 }
+// SIMD scan (the twin is scalar::exponent_range).
+ExponentRange exponent_range(const float* v, std::size_t n);
 
 // True when every partial sum of the products fl(t[k] * x[k']) of taps in
 // exponent range a, whose magnitudes add up to at most taps_abs_sum, and
@@ -87,6 +81,28 @@ inline double abs_sum(const float* v, std::size_t n) {
 }
 
 namespace scalar {
+
+// Magnitude bit patterns of v: the smallest nonzero one (all ones when there
+// is none) and the largest.
+inline void magnitude_bits(const float* v, std::size_t n, std::uint32_t* min_nonzero, std::uint32_t* max_bits) {
+  std::uint32_t lo = 0xffffffffu, hi = 0;
+  for (std::size_t i = 0; i < n; ++i) {
+    std::uint32_t u;
+    std::memcpy(&u, v + i, sizeof u);
+    u &= 0x7fffffffu;
+    hi = u > hi ? u : hi;
+    const std::uint32_t g = u == 0 ? 0xffffffffu : u;
+    lo = g < lo ? g : lo;
+  }
+  *min_nonzero = lo < *min_nonzero ? lo : *min_nonzero;
+  *max_bits = hi > *max_bits ? hi : *max_bits;
+}
+
+inline ExponentRange exponent_range(const float* v, std::size_t n) {
+  std::uint32_t lo = 0xffffffffu, hi = 0;
+  magnitude_bits(v, n, &lo, &hi);
+  return exponent_range_of(lo, hi);
+}
 
 // One output of the single-precision rule: below four taps the products are
 // summed in extended precision; from four taps on, four running

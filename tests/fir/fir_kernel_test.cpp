@@ -95,6 +95,26 @@ TEST(FirKernels, ExactDoubleSumsEqualTheExtendedRule) {
   EXPECT_GT(refused, 100);
 }
 
+// The SIMD exponent scan equals its twin on every target, across lengths
+// and with zeros, subnormals, infinities and NaNs at any position.
+TEST(FirKernels, ExponentRangeEqualsTwin) {
+  std::mt19937 g(54);
+  const float specials[] = {0.0f, -0.0f, 1e-40f, -3e-39f, std::numeric_limits<float>::infinity(),
+                            std::numeric_limits<float>::quiet_NaN(), 0x1p-126f, 0x1p127f};
+  for_each_target([&](const std::string& target) {
+    for (int n : sweep_lengths({100})) {
+      for (int trial = 0; trial < 4; ++trial) {
+        std::vector<float> v(static_cast<std::size_t>(n));
+        for (auto& x : v) x = trial == 0 ? 0.0f : std::ldexp(1.0f + static_cast<float>(g() % 1000) / 1000, static_cast<int>(g() % 40) - 20);
+        if (trial >= 2 && n > 0) v[g() % static_cast<std::uint32_t>(n)] = specials[g() % 8];
+        const auto a = kernels::exponent_range(v.data(), v.size());
+        const auto b = kernels::scalar::exponent_range(v.data(), v.size());
+        ASSERT_TRUE(a.lo == b.lo && a.hi == b.hi && a.normal == b.normal) << target << " n=" << n << " trial " << trial;
+      }
+    }
+  });
+}
+
 TEST(FirKernels, ExactSumAdmission) {
   const float one[4] = {1, 1.5f, -1.25f, 1};
   const float tiny[2] = {1, 0x1p-30f};
