@@ -145,18 +145,26 @@ void direct_block_run(const Data* src, Data* dst, int n, const Tap* taps, int L,
   direct_run(src, dst, head, taps, L, d, index, sf, factor);
   int j = head;
   if constexpr (std::is_same_v<Tap, Kel32f> && std::is_same_v<Data, Kel32f>) {
-    // Pieces whose sums are exact in double precision (checked from the
-    // exponent ranges of the taps and of the piece's inputs) take the SIMD
-    // double-precision kernel, which then rounds the same exact value; the
-    // others keep the extended-precision accumulation.
+    // Pieces whose sums are exact in one double-precision accumulator, or in
+    // two split by magnitude (checked from the exponent ranges of the taps
+    // and of the piece's inputs and the taps' magnitude sum), take the SIMD
+    // double-precision kernels, which then round the same exact value as the
+    // extended-precision accumulation; the others keep that accumulation.
     const kernels::ExponentRange tr = kernels::exponent_range(taps, static_cast<std::size_t>(L));
     const double tsum = kernels::abs_sum(taps, static_cast<std::size_t>(L));
     while (j < n) {
       const int c = n - j < kExactPiece ? n - j : kExactPiece;
       const Kel32f* x = src + (j - L + 1);
       const std::size_t span = static_cast<std::size_t>(c + L - 1);
-      if (kernels::sum_exact_in_double(tr, tsum, kernels::exponent_range(x, span))) {
+      const kernels::ExponentRange xr = kernels::exponent_range(x, span);
+      int g = 0;
+      if (kernels::sum_exact_in_double(tr, tsum, xr)) {
         kernels::fir_sum_exact_f32(taps, static_cast<std::size_t>(L), x, dst + j, static_cast<std::size_t>(c));
+        j += c;
+        continue;
+      }
+      if (kernels::split_exact_in_double(tr, tsum, xr, static_cast<std::size_t>(L), &g)) {
+        kernels::fir_sum_split_f32(taps, static_cast<std::size_t>(L), x, dst + j, static_cast<std::size_t>(c), g);
         j += c;
         continue;
       }

@@ -9,6 +9,8 @@
 
 #include "kernels/fir.h"
 
+#include <cmath>
+
 HWY_BEFORE_NAMESPACE();
 namespace kels::kernels {
 namespace HWY_NAMESPACE {
@@ -121,6 +123,52 @@ void FirSumExactF32(const float* HWY_RESTRICT taps, size_t L, const float* HWY_R
   for (; n + 4 * N <= count; n += 4 * N) SumExactBlock<4>(dd, taps, L, x + n, y + n);
   for (; n + N <= count; n += N) SumExactBlock<1>(dd, taps, L, x + n, y + n);
   scalar::fir_sum_exact_f32(taps, L, x + n, y + n, count - n);
+}
+
+// Two accumulators (split at 2^g), combined as scalar::round_sum_to_float
+// does, lane by lane.
+template <size_t V, class DD>
+HWY_INLINE void SumSplitBlock(DD dd, const float* HWY_RESTRICT taps, size_t L, const float* HWY_RESTRICT x,
+                              float* HWY_RESTRICT y, hn::Vec<DD> split) {
+  const hn::Rebind<float, DD> df;
+  const hn::RebindToUnsigned<DD> du;
+  const size_t N = hn::Lanes(dd);
+  hn::Vec<DD> a[V], b[V];
+  for (size_t v = 0; v < V; ++v) a[v] = b[v] = hn::Zero(dd);
+  for (size_t k = 0; k < L; ++k) {
+    const auto tk = hn::Set(df, taps[L - 1 - k]);
+    for (size_t v = 0; v < V; ++v) {
+      const auto p = hn::PromoteTo(dd, hn::Mul(tk, hn::LoadU(df, x + v * N + k)));
+      const auto big = hn::Ge(hn::Abs(p), split);
+      a[v] = hn::Add(a[v], hn::IfThenElseZero(big, p));
+      b[v] = hn::Add(b[v], hn::IfThenZeroElse(big, p));
+    }
+  }
+  const auto one = hn::Set(du, 1);
+  const auto minus_one = hn::Set(du, ~uint64_t{0});
+  for (size_t v = 0; v < V; ++v) {
+    const auto s = hn::Add(a[v], b[v]);
+    const auto bb = hn::Sub(s, a[v]);
+    const auto e = hn::Add(hn::Sub(a[v], hn::Sub(s, bb)), hn::Sub(b[v], bb));
+    const auto u = hn::BitCast(du, s);
+    const auto even = hn::Eq(hn::And(u, one), hn::Zero(du));
+    const auto inexact = hn::RebindMask(du, hn::Ne(e, hn::Zero(dd)));
+    const auto same_sign = hn::Eq(hn::ShiftRight<63>(hn::Xor(hn::BitCast(du, e), u)), hn::Zero(du));
+    const auto step = hn::IfThenElse(same_sign, one, minus_one);
+    const auto odd = hn::IfThenElse(hn::And(even, inexact), hn::Add(u, step), u);
+    hn::StoreU(hn::DemoteTo(df, hn::BitCast(dd, odd)), df, y + v * N);
+  }
+}
+
+void FirSumSplitF32(const float* HWY_RESTRICT taps, size_t L, const float* HWY_RESTRICT x, float* HWY_RESTRICT y,
+                    size_t count, int g) {
+  const hn::ScalableTag<double> dd;
+  const size_t N = hn::Lanes(dd);
+  const auto split = hn::Set(dd, std::ldexp(1.0, g));
+  size_t n = 0;
+  for (; n + 2 * N <= count; n += 2 * N) SumSplitBlock<2>(dd, taps, L, x + n, y + n, split);
+  for (; n + N <= count; n += N) SumSplitBlock<1>(dd, taps, L, x + n, y + n, split);
+  scalar::fir_sum_split_f32(taps, L, x + n, y + n, count - n, g);
 }
 
 // Smallest nonzero and largest magnitude bit patterns of v.
@@ -243,6 +291,7 @@ HWY_EXPORT(FirDotF64);
 HWY_EXPORT(FirDotC32);
 HWY_EXPORT(FirSpectralF32);
 HWY_EXPORT(FirSumExactF32);
+HWY_EXPORT(FirSumSplitF32);
 HWY_EXPORT(FirMagnitudeBits);
 HWY_EXPORT(FirSpectralF64);
 
@@ -256,6 +305,9 @@ void fir_dot_c32(const float* t, std::size_t L, const float* x, float* y, std::s
   HWY_DYNAMIC_DISPATCH(FirDotC32)(t, L, x, y, count);
 }
 
+void fir_sum_split_f32(const float* taps, std::size_t L, const float* x, float* y, std::size_t count, int g) {
+  HWY_DYNAMIC_DISPATCH(FirSumSplitF32)(taps, L, x, y, count, g);
+}
 ExponentRange exponent_range(const float* v, std::size_t n) {
   std::uint32_t lo = 0, hi = 0;
   HWY_DYNAMIC_DISPATCH(FirMagnitudeBits)(v, n, &lo, &hi);

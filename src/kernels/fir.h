@@ -32,6 +32,10 @@ void fir_dot_c32(const float* t, std::size_t L, const float* x, float* y, std::s
 // in double precision (sum_exact_in_double tells), since both then round
 // the same exact value once.
 void fir_sum_exact_f32(const float* taps, std::size_t L, const float* x, float* y, std::size_t count);
+// The same with two accumulators, products of magnitude at least 2^g in
+// the first (see split_exact_in_double); the exact total a + b is rounded to
+// single precision once (through round to odd in double precision).
+void fir_sum_split_f32(const float* taps, std::size_t L, const float* x, float* y, std::size_t count, int g);
 
 // Overlap-save spectral step on the half-length complex spectrum z of a
 // real block (m = N/2 interleaved complex values, m a power of two >= 2):
@@ -57,21 +61,49 @@ inline ExponentRange exponent_range_of(std::uint32_t min_nonzero, std::uint32_t 
 // SIMD scan (the twin is scalar::exponent_range).
 ExponentRange exponent_range(const float* v, std::size_t n);
 
-// True when every partial sum of the products fl(t[k] * x[k']) of taps in
-// exponent range a, whose magnitudes add up to at most taps_abs_sum, and
-// data in range b is exact in double precision and no product overflows.
-// Nonzero products are at least 2^(ea+eb) (e: lowest unbiased exponent), so
-// all are multiples of 2^q, q = max(ea + eb - 23, -149); every partial sum
-// is at most sum |t| * 2^(Eb+1) * (1 + 2^-24) (E: highest exponent), and it
-// is exact when that is at most 2^(q+53). The margin 2^-20 also covers the
-// rounding of taps_abs_sum.
-inline bool sum_exact_in_double(ExponentRange a, double taps_abs_sum, ExponentRange b) {
-  if (!a.normal || !b.normal || a.lo == 255 || b.lo == 255) return false;
-  if (static_cast<int>(a.hi + b.hi) - 254 + 2 > 127) return false;
+// Bounds on the products fl(t[k] * x[k']) of taps in exponent range a,
+// whose magnitudes add up to at most taps_abs_sum, and data in range b:
+// nonzero products are at least 2^(ea+eb) (e: lowest unbiased exponent), so
+// all are multiples of 2^q, q = max(ea + eb - 23, -149); the magnitudes of
+// any of them add up to at most sum |t| * 2^(Eb+1) * (1 + 2^-24) (E: highest
+// exponent; the margin 2^-20 used also covers the rounding of
+// taps_abs_sum). ok is false for zero, subnormal, infinite or NaN extremes
+// and when a product could overflow.
+struct ProductBounds {
+  bool ok;
+  int q;
+  double bound;
+};
+inline ProductBounds product_bounds(ExponentRange a, double taps_abs_sum, ExponentRange b) {
+  if (!a.normal || !b.normal || a.lo == 255 || b.lo == 255) return {false, 0, 0};
+  if (static_cast<int>(a.hi + b.hi) - 254 + 2 > 127) return {false, 0, 0};
   const int lo = static_cast<int>(a.lo + b.lo) - 254;
-  const int q = lo - 23 < -149 ? -149 : lo - 23;
-  const double bound = std::ldexp(taps_abs_sum * (1 + 0x1p-20), static_cast<int>(b.hi) - 127 + 1);
-  return bound <= std::ldexp(1.0, q + 53);
+  return {true, lo - 23 < -149 ? -149 : lo - 23,
+          std::ldexp(taps_abs_sum * (1 + 0x1p-20), static_cast<int>(b.hi) - 127 + 1)};
+}
+
+// One double accumulator: every partial sum is exact when the bound is at
+// most 2^(q+53).
+inline bool sum_exact_in_double(ExponentRange a, double taps_abs_sum, ExponentRange b) {
+  const ProductBounds p = product_bounds(a, taps_abs_sum, b);
+  return p.ok && p.bound <= std::ldexp(1.0, p.q + 53);
+}
+
+// Two double accumulators split at 2^g, g = q + 53 - ceil(log2 L), for sums
+// that extended precision (64-bit significands) forms exactly, i.e. with the
+// bound at most 2^(q+64), which the rule's own result then equals rounded
+// once: the products below 2^g (on the grid 2^q, at most L of them) sum
+// exactly; those at or above it lie on the grid 2^(g-23) and sum exactly
+// when the bound is at most 2^(g+30). Writes g when all hold.
+inline bool split_exact_in_double(ExponentRange a, double taps_abs_sum, ExponentRange b, std::size_t L, int* g) {
+  const ProductBounds p = product_bounds(a, taps_abs_sum, b);
+  if (!p.ok || p.bound > std::ldexp(1.0, p.q + 64)) return false;
+  int lg = 0;
+  while ((std::size_t{1} << lg) < L) ++lg;
+  const int split = p.q + 53 - lg;
+  if (p.bound > std::ldexp(1.0, split + 30)) return false;
+  *g = split;
+  return true;
 }
 
 inline double abs_sum(const float* v, std::size_t n) {
@@ -134,6 +166,35 @@ inline float sum_f32(const float* t, std::size_t L, const float* x) {
 
 inline void fir_dot_f32(const float* t, std::size_t L, const float* x, float* y, std::size_t count) {
   for (std::size_t n = 0; n < count; ++n) y[n] = sum_f32(t, L, x + n);
+}
+
+// a + b (each exact) rounded once to single precision: the double sum s and
+// its error e (two-sum) give a + b rounded to odd (s with its last bit
+// forced to 1 by one step towards e when inexact), which has enough spare
+// bits for the final rounding to equal the rounding of a + b.
+inline float round_sum_to_float(double a, double b) {
+  const double s = a + b;
+  const double bb = s - a;
+  const double e = (a - (s - bb)) + (b - bb);
+  std::uint64_t u;
+  std::memcpy(&u, &s, sizeof u);
+  if (e != 0 && (u & 1) == 0) u = (e > 0) == (s > 0) ? u + 1 : u - 1;
+  double r;
+  std::memcpy(&r, &u, sizeof r);
+  return static_cast<float>(r);
+}
+
+inline void fir_sum_split_f32(const float* taps, std::size_t L, const float* x, float* y, std::size_t count, int g) {
+  const double split = std::ldexp(1.0, g);
+  for (std::size_t n = 0; n < count; ++n) {
+    double a = 0, b = 0;
+    for (std::size_t k = 0; k < L; ++k) {
+      const double p = static_cast<double>(static_cast<float>(taps[L - 1 - k] * x[n + k]));
+      if (std::fabs(p) >= split) a = a + p;
+      else b = b + p;
+    }
+    y[n] = round_sum_to_float(a, b);
+  }
 }
 
 inline void fir_sum_exact_f32(const float* taps, std::size_t L, const float* x, float* y, std::size_t count) {

@@ -48,11 +48,11 @@ TEST(FirKernels, ComplexSingleEqualsTwin) {
   compare<float>(kernels::fir_dot_c32, kernels::scalar::fir_dot_c32, 2);
 }
 
-// The double-precision sums of the caller-held single-precision form equal
-// the extended-precision rule bit for bit whenever sum_exact_in_double
-// admits the data. Taps and inputs get full 24-bit mantissas and exponents
-// spread over ranges around the admission limit, so admitted cases sit on
-// both sides of it.
+// The double-precision sums of the caller-held single-precision form (one
+// accumulator, or two split by magnitude) equal the extended-precision rule
+// bit for bit whenever their admission tests pass. Taps and inputs get full
+// 24-bit mantissas and exponents spread over ranges around the admission
+// limits, so admitted cases sit on both sides of them.
 long double extended_rule(const float* taps, std::size_t L, const float* x) {
   long double s = 0;
   for (std::size_t k = 0; k < L; ++k) s += static_cast<float>(taps[L - 1 - k] * x[k]);
@@ -69,30 +69,59 @@ TEST(FirKernels, ExactDoubleSumsEqualTheExtendedRule) {
     std::memcpy(&v, &bits, sizeof v);
     return v;
   };
-  int admitted = 0, refused = 0;
+  int single = 0, split = 0, refused = 0;
   for_each_target([&](const std::string& target) {
-    for (int trial = 0; trial < 300; ++trial) {
+    for (int trial = 0; trial < 400; ++trial) {
       const std::size_t L = 1 + g() % 70;
       const int count = 1 + static_cast<int>(g() % 40);
-      const int st = static_cast<int>(g() % 20), sx = static_cast<int>(g() % 20);
+      const int st = static_cast<int>(g() % 25), sx = static_cast<int>(g() % 25);
       std::vector<float> taps(L), x(L - 1 + static_cast<std::size_t>(count)), y(static_cast<std::size_t>(count));
       for (auto& v : taps) v = value(st, -4);
       for (auto& v : x) v = value(sx, -10);
-      const bool ok = kernels::sum_exact_in_double(kernels::exponent_range(taps.data(), L),
-                                                   kernels::abs_sum(taps.data(), L),
-                                                   kernels::exponent_range(x.data(), x.size()));
-      ok ? ++admitted : ++refused;
-      if (!ok) continue;
-      kernels::fir_sum_exact_f32(taps.data(), L, x.data(), y.data(), static_cast<std::size_t>(count));
+      const auto tr = kernels::exponent_range(taps.data(), L);
+      const auto xr = kernels::exponent_range(x.data(), x.size());
+      const double ts = kernels::abs_sum(taps.data(), L);
+      int cut = 0;
+      if (kernels::sum_exact_in_double(tr, ts, xr)) {
+        ++single;
+        kernels::fir_sum_exact_f32(taps.data(), L, x.data(), y.data(), static_cast<std::size_t>(count));
+      } else if (kernels::split_exact_in_double(tr, ts, xr, L, &cut)) {
+        ++split;
+        kernels::fir_sum_split_f32(taps.data(), L, x.data(), y.data(), static_cast<std::size_t>(count), cut);
+      } else {
+        ++refused;
+        continue;
+      }
       for (int n = 0; n < count; ++n) {
         const float want = static_cast<float>(extended_rule(taps.data(), L, x.data() + n));
         ASSERT_EQ(std::memcmp(&y[static_cast<std::size_t>(n)], &want, sizeof want), 0)
-            << target << " L=" << L << " n=" << n << " spreads " << st << "," << sx;
+            << target << " L=" << L << " n=" << n << " spreads " << st << "," << sx << " split " << cut;
       }
     }
   });
-  EXPECT_GT(admitted, 100);
+  EXPECT_GT(single, 100);
+  EXPECT_GT(split, 100);
   EXPECT_GT(refused, 100);
+}
+
+// The exact sum of two doubles rounded once to single precision, against
+// extended precision where that sum is exact (exponents at most 10 apart),
+// including sums that fall exactly halfway between two floats but for a
+// tiny second term, which must decide the direction.
+TEST(FirKernels, RoundSumToFloatRoundsOnce) {
+  std::mt19937_64 g(55);
+  std::uniform_real_distribution<double> u(-1, 1);
+  for (int i = 0; i < 20000; ++i) {
+    const double a = std::ldexp(u(g), static_cast<int>(g() % 40) - 20);
+    const double b = std::ldexp(u(g), std::ilogb(a) - static_cast<int>(g() % 11));
+    const float want = static_cast<float>(static_cast<long double>(a) + b);
+    ASSERT_EQ(kernels::scalar::round_sum_to_float(a, b), want) << a << " + " << b;
+  }
+  const double mid = 1.0 + 0x1p-24;  // halfway between 1 and its float successor
+  EXPECT_EQ(kernels::scalar::round_sum_to_float(mid, 0x1p-60), 1.0f + 0x1p-23f);
+  EXPECT_EQ(kernels::scalar::round_sum_to_float(mid, -0x1p-60), 1.0f);
+  EXPECT_EQ(kernels::scalar::round_sum_to_float(-mid, -0x1p-60), -1.0f - 0x1p-23f);
+  EXPECT_EQ(kernels::scalar::round_sum_to_float(mid, 0), 1.0f);  // tie to even
 }
 
 // The SIMD exponent scan equals its twin on every target, across lengths
@@ -138,6 +167,13 @@ TEST(FirKernels, ExactSumAdmission) {
   const auto rw = kernels::exponent_range(wide, 2);
   EXPECT_TRUE(kernels::sum_exact_in_double(r1, 7.99, rw));
   EXPECT_FALSE(kernels::sum_exact_in_double(r1, 8.01, rw));
+  // Two accumulators reach 64 bits: the tiny inputs above pass (grid 2^-53,
+  // split at 2^-2 for four taps), inputs down to 2^-45 do not.
+  int cut = 0;
+  EXPECT_TRUE(kernels::split_exact_in_double(r1, 4.75, kernels::exponent_range(tiny, 2), 4, &cut));
+  EXPECT_EQ(cut, -2);
+  const float tinier[2] = {1, 0x1p-45f};
+  EXPECT_FALSE(kernels::split_exact_in_double(r1, 4.75, kernels::exponent_range(tinier, 2), 4, &cut));
   // Products that could overflow single precision.
   const float big[1] = {0x1p63f};
   const auto rb = kernels::exponent_range(big, 1);
