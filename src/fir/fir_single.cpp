@@ -183,7 +183,7 @@ template <class M> using fft_t = typename fft_api<M>::F;
 
 // Areas of the FFT method behind the record, in one allocation: the four
 // factor tables of the spectral step (N values each), then per thread a
-// status, an N-value block and an FFT work buffer. Per-thread areas are
+// status, a block area (two N-value buffers) and an FFT work buffer. Per-thread areas are
 // rounded up to whole cache lines plus one spare line, so whatever the
 // alignment of the record no two threads ever write to the same line.
 constexpr std::uint64_t thread_stride(std::uint64_t bytes) { return ((bytes + 63) & ~std::uint64_t{63}) + 64; }
@@ -191,9 +191,12 @@ constexpr std::uint64_t thread_stride(std::uint64_t bytes) { return ((bytes + 63
 struct FftLayout {
   std::uint64_t taps, status, blocks, work, end;
 };
+// Each thread's block area holds two N-value buffers: the transforms run
+// out of place (block -> spectrum -> block), which the FFT does markedly
+// faster than in place at the larger lengths.
 template <class M>
 std::uint64_t fft_block_stride(int N) {
-  return thread_stride(static_cast<std::uint64_t>(N) * sizeof(fft_t<M>));
+  return thread_stride(2 * static_cast<std::uint64_t>(N) * sizeof(fft_t<M>));
 }
 template <class M>
 FftLayout fft_layout(std::uint64_t start, int N, int threads, int buf_size) {
@@ -286,14 +289,14 @@ KelStatus fft_prepare_taps(Record* r) {
   const tap_t<M>* t = area<tap_t<M>>(r, r->taps);
   for (int k = 0; k < L; ++k) z[k] = static_cast<F>(t[L - 1 - k]);
   zero_n(z + L, N - L);
-  const KelStatus st = fft_api<M>::fwd(z, z, r->fft_spec, fft_work_of<M>(r, 0));
+  const KelStatus st = fft_api<M>::fwd(z, z + N, r->fft_spec, fft_work_of<M>(r, 0));
   if (st < 0) {
     fft_api<M>::release(r->fft_spec);
     r->fft_spec = nullptr;
     r->fft_len = -1;
     return st;
   }
-  fill_spectral_tables(z, N, area<F>(r, r->fft_taps));
+  fill_spectral_tables(z + N, N, area<F>(r, r->fft_taps));
   return st;
 }
 
@@ -314,18 +317,20 @@ void fft_store(const fft_t<M>* b, data_t<M>* y, int n, int sf) {
   }
 }
 
-// Circular convolution of the block b with the taps: forward transform
-// (from src, which may be b), spectral step, inverse.
+// Circular convolution of the block at src (the caller's input, or b) with
+// the taps into b: forward transform into the spectrum buffer b + N,
+// spectral step there, inverse back into b.
 template <class M>
 KelStatus fft_convolve(const Record* r, const fft_t<M>* src, fft_t<M>* b, Kel8u* w) {
   using A = fft_api<M>;
   using F = fft_t<M>;
   const std::size_t N = static_cast<std::size_t>(r->fft_len);
-  KELS_RETURN_IF_ERROR(A::fwd(src, b, r->fft_spec, w));
+  F* z = b + N;
+  KELS_RETURN_IF_ERROR(A::fwd(src, z, r->fft_spec, w));
   const F* base = area<F>(r, r->fft_taps);
   const F* const tab[4] = {base, base + N, base + 2 * N, base + 3 * N};
-  A::spectral(tab, b, N / 2);
-  return A::inv(b, b, r->fft_spec, w);
+  A::spectral(tab, z, N / 2);
+  return A::inv(z, b, r->fft_spec, w);
 }
 
 // Block starting at in[i] of the long path: M overlap samples then S new
