@@ -24,6 +24,10 @@ namespace {
 // Outputs read straight from the caller's input are computed in a parallel
 // region when the block has more samples than this.
 constexpr int kParallelMinIters = 160000;
+// Outputs (direct method) or block outputs (FFT method) per piece of work
+// handed to a thread: some tens of microseconds, so the hand-out costs
+// nothing and the threads finish close together.
+constexpr std::size_t kParallelChunk = 16384;
 // The FFT method is chosen for blocks of at least this many samples.
 constexpr int kFftMinIters = 512;
 // The 64f_32s worker filters a block in pieces of at most this many samples.
@@ -72,9 +76,12 @@ void run_kernel(const Record* r, const data_t<M>* x, data_t<M>* y, std::size_t c
   }
 }
 
-// The same, split into contiguous ranges over the library's thread count.
-// Every output is formed by the same sequence of operations whoever
-// computes it, so the result does not depend on the split.
+// The same over the library's thread count, in chunks of kParallelChunk
+// outputs handed out as threads become free: a thread that starts late or
+// shares its core with other work takes fewer chunks instead of holding up
+// the others at the end (a static split made each call wait for the slowest
+// thread). Every output is formed by the same sequence of operations
+// whoever computes it, so the result does not depend on the split.
 template <class M>
 void run_kernel_parallel(const Record* r, const data_t<M>* x, data_t<M>* y, std::size_t count, int sf) {
   const int threads = threads_omp_of_n_kel;
@@ -82,13 +89,11 @@ void run_kernel_parallel(const Record* r, const data_t<M>* x, data_t<M>* y, std:
     run_kernel<M>(r, x, y, count, sf);
     return;
   }
-#pragma omp parallel num_threads(threads)
-  {
-    const std::uint64_t nt = static_cast<std::uint64_t>(omp_get_num_threads());
-    const std::uint64_t id = static_cast<std::uint64_t>(omp_get_thread_num());
-    const std::size_t lo = static_cast<std::size_t>(count * id / nt);
-    const std::size_t hi = static_cast<std::size_t>(count * (id + 1) / nt);
-    if (hi > lo) run_kernel<M>(r, x + lo, y + lo, hi - lo, sf);
+  const std::int64_t chunks = static_cast<std::int64_t>((count + kParallelChunk - 1) / kParallelChunk);
+#pragma omp parallel for num_threads(threads) schedule(dynamic, 1)
+  for (std::int64_t c = 0; c < chunks; ++c) {
+    const std::size_t lo = static_cast<std::size_t>(c) * kParallelChunk;
+    run_kernel<M>(r, x + lo, y + lo, std::min(kParallelChunk, count - lo), sf);
   }
 }
 
@@ -362,9 +367,10 @@ KelStatus fft_one_block(Record* r, const data_t<M>* in, data_t<M>* out, int R, i
 // Overlap-save block filter. The first block takes its M overlap samples
 // from the history; the history is then replaced before the remaining
 // blocks, which read only the input. Above kParallelMinIters samples the
-// remaining blocks are split into contiguous ranges over the threads, each
-// with its own block and work buffer; every block is computed by the same
-// operations whoever computes it, so outputs do not depend on the split.
+// remaining blocks are handed out to the threads in chunks of about
+// kParallelChunk outputs as they become free, each thread with its own
+// buffers; every block is computed by the same operations whoever computes
+// it, so outputs do not depend on the split.
 template <class M>
 KelStatus fft_block(Record* r, const data_t<M>* src, data_t<M>* dst, int n, int sf) {
   using D = data_t<M>;
@@ -405,16 +411,17 @@ KelStatus fft_block(Record* r, const data_t<M>* src, data_t<M>* dst, int n, int 
     return kelStsOk;
   }
   for (int t = 0; t < threads; ++t) *fft_status_of<M>(r, t) = kelStsOk;
+  const int per_chunk = std::max(1, static_cast<int>(kParallelChunk) / S);
 #pragma omp parallel num_threads(threads)
   {
-    const std::int64_t nt = omp_get_num_threads();
     const int id = omp_get_thread_num();
-    const int lo = static_cast<int>(blocks * id / nt);
-    const int hi = static_cast<int>(blocks * (id + 1) / nt);
     F* bt = fft_block_of<M>(r, id);
     Kel8u* wt = fft_work_of<M>(r, id);
     int st = kelStsOk;
-    for (int j = lo; j < hi && st >= 0; ++j) st = fft_one_block<M>(r, in, out, R, j * S, bt, wt, sf);
+#pragma omp for schedule(dynamic, per_chunk)
+    for (int j = 0; j < blocks; ++j) {
+      if (st >= 0) st = fft_one_block<M>(r, in, out, R, j * S, bt, wt, sf);
+    }
     *fft_status_of<M>(r, id) = st;
   }
   int worst = kelStsOk;
