@@ -35,7 +35,7 @@ struct Record {
   std::int32_t owned;          // 1: made by InitAlloc, released by Free
   std::int32_t taps_factor;    // power-of-two factor of integer taps
   std::int32_t work_len;       // samples of the data type the work area holds
-  std::uint32_t fft_blocks;    // per-thread N-float blocks of the FFT method, 0 when absent
+  std::uint32_t fft_blocks;    // per-thread block areas (2N values) of the FFT method, 0 when absent
   std::int32_t fft_threads;    // threads the FFT blocks, work buffers and statuses were sized for
 };
 static_assert(sizeof(Record) <= 80, "the header must fit the smallest documented header");

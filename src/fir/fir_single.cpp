@@ -79,9 +79,9 @@ void run_kernel(const Record* r, const data_t<M>* x, data_t<M>* y, std::size_t c
 // The same over the library's thread count, in chunks of kParallelChunk
 // outputs handed out as threads become free: a thread that starts late or
 // shares its core with other work takes fewer chunks instead of holding up
-// the others at the end (a static split made each call wait for the slowest
-// thread). Every output is formed by the same sequence of operations
-// whoever computes it, so the result does not depend on the split.
+// the others at the end, as a fixed split into equal ranges would. Every
+// output is formed by the same sequence of operations whoever computes it,
+// so the result does not depend on the split.
 template <class M>
 void run_kernel_parallel(const Record* r, const data_t<M>* x, data_t<M>* y, std::size_t count, int sf) {
   const int threads = threads_omp_of_n_kel;
