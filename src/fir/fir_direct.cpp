@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "fir/fir_arith.h"
+#include "kernels/fir.h"
 #include "frame/common.h"
 #include "frame/scale.h"
 
@@ -83,6 +84,15 @@ Data direct_sum(const Tap* taps, int L, const Data* x, int sf, int factor) {
   }
 }
 
+// Outputs of the single-precision caller-held form checked at a time for
+// sums exact in double precision: a short piece keeps the exponent range
+// of its inputs narrow (so more pieces pass) at the cost of rescanning the
+// L - 1 inputs the pieces share.
+constexpr int kExactPiece = 256;
+// The first L-1 outputs of a block are formed from a copy on the stack of
+// at most kExactPiece + kHeadMaxTaps samples (9 KiB).
+constexpr int kHeadMaxTaps = 2048;
+
 // Four consecutive single-precision outputs whose spans start at x, x+1,
 // x+2, x+3: the same sums as direct_sum, with four independent
 // extended-precision accumulators so their additions overlap.
@@ -121,27 +131,94 @@ void direct_run(const Data* src, Data* dst, int n, const Tap* taps, int L, Data*
 // delay line.
 inline bool bad_index(const int* index, int L) { return *index < 0 || *index >= L; }
 
+// Single-precision outputs y[0..count) over the spans x[j..j+L-1], in
+// pieces of kExactPiece outputs. Pieces whose sums are exact in one
+// double-precision accumulator, or in two split by magnitude (checked from
+// the exponent ranges of the taps and of the piece's inputs and the taps'
+// magnitude sum), take the SIMD double-precision kernels, which then round
+// the same exact value as the extended-precision accumulation; the others
+// keep that accumulation.
+struct TapsSummary {
+  kernels::ExponentRange range;
+  double abs_sum;
+};
+void sum_pieces_32f(const Kel32f* taps, int L, const TapsSummary& ts, const Kel32f* x, Kel32f* y, int count) {
+  const std::size_t Ls = static_cast<std::size_t>(L);
+  for (int j = 0; j < count;) {
+    const int c = count - j < kExactPiece ? count - j : kExactPiece;
+    const Kel32f* xp = x + j;
+    const kernels::ExponentRange xr = kernels::exponent_range(xp, static_cast<std::size_t>(c + L - 1));
+    int g = 0;
+    if (kernels::sum_exact_in_double(ts.range, ts.abs_sum, xr)) {
+      kernels::fir_sum_exact_f32(taps, Ls, xp, y + j, static_cast<std::size_t>(c));
+    } else if (kernels::split_exact_in_double(ts.range, ts.abs_sum, xr, Ls, &g)) {
+      kernels::fir_sum_split_f32(taps, Ls, xp, y + j, static_cast<std::size_t>(c), g);
+    } else {
+      int i = 0;
+      for (; i + 4 <= c; i += 4) direct_sum4_32f(taps, L, xp + i, y + j + i);
+      for (; i < c; ++i) y[j + i] = direct_sum(taps, L, xp + i, 0, 0);
+    }
+    j += c;
+  }
+}
+
+// Out-of-place single-precision block: the first L-1 outputs, whose spans
+// reach into the history, are formed piece by piece from a copy of the span
+// (history then inputs) on the stack when the taps are few enough for it;
+// the rest straight from the input.
+void direct_block_32f(const Kel32f* src, Kel32f* dst, int n, const Kel32f* taps, int L, const Kel32f* d, int i0) {
+  const TapsSummary ts{kernels::exponent_range(taps, static_cast<std::size_t>(L)),
+                       kernels::abs_sum(taps, static_cast<std::size_t>(L))};
+  const int head = n < L - 1 ? n : L - 1;
+  if (L - 1 <= kHeadMaxTaps) {
+    Kel32f span[kExactPiece + kHeadMaxTaps];
+    for (int j = 0; j < head; j += kExactPiece) {
+      const int c = head - j < kExactPiece ? head - j : kExactPiece;
+      // span[m] = (history then input)[j + 1 + m]
+      for (int m = 0; m < c + L - 1; ++m) {
+        const int at = j + 1 + m;
+        span[m] = at < L ? d[i0 + at] : src[at - L];
+      }
+      sum_pieces_32f(taps, L, ts, span, dst + j, c);
+    }
+  } else {
+    for (int j = 0; j < head; ++j) {
+      long double acc = 0;
+      for (int k = 0; k < L; ++k) {
+        const int at = j + 1 + k;
+        acc += static_cast<float>(taps[L - 1 - k] * (at < L ? d[i0 + at] : src[at - L]));
+      }
+      dst[j] = static_cast<Kel32f>(acc);
+    }
+  }
+  if (n > head) sum_pieces_32f(taps, L, ts, src + (head - L + 1), dst + head, n - head);
+}
+
 // Block of the caller-held form. Out of place, the outputs whose span lies
 // wholly in the block (j >= L-1) are read straight from the input, as the
 // same sums the one-sample step would form, and the delay line then receives
 // the last L inputs in the slots the steps would have used; in place (or for
-// the first L-1 samples) the one-sample step runs sample by sample.
+// the first L-1 samples) the one-sample step runs sample by sample. The
+// single-precision member handles the first L-1 samples itself.
 template <class Tap, class Data>
 void direct_block_run(const Data* src, Data* dst, int n, const Tap* taps, int L, Data* d, int* index, int sf,
                       int factor) {
+  constexpr bool f32 = std::is_same_v<Tap, Kel32f> && std::is_same_v<Data, Kel32f>;
   const int head = n < L - 1 ? n : L - 1;
-  if (src == dst || head == n) {
+  if (src == dst || (head == n && !f32)) {
     direct_run(src, dst, n, taps, L, d, index, sf, factor);
     return;
   }
   const int i0 = *index;
-  direct_run(src, dst, head, taps, L, d, index, sf, factor);
-  int j = head;
-  if constexpr (std::is_same_v<Tap, Kel32f> && std::is_same_v<Data, Kel32f>) {
-    for (; j + 4 <= n; j += 4) direct_sum4_32f(taps, L, src + (j - L + 1), dst + j);
+  int first = 0;  // first sample whose slot the steps below must write
+  if constexpr (f32) {
+    direct_block_32f(src, dst, n, taps, L, d, i0);
+  } else {
+    direct_run(src, dst, head, taps, L, d, index, sf, factor);
+    for (int j = head; j < n; ++j) dst[j] = direct_sum(taps, L, src + (j - L + 1), sf, factor);
+    first = head;
   }
-  for (; j < n; ++j) dst[j] = direct_sum(taps, L, src + (j - L + 1), sf, factor);
-  for (j = n - L > head ? n - L : head; j < n; ++j) {
+  for (int j = n - L > first ? n - L : first; j < n; ++j) {
     const int slot = static_cast<int>((static_cast<std::int64_t>(i0) + j) % L);
     d[slot] = src[j];
     d[slot + L] = src[j];

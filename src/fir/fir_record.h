@@ -25,8 +25,8 @@ struct Record {
   std::int32_t taps_len;       // L
   std::int32_t direct_limit;   // L rounded up to a multiple of 4, plus 1
   std::int32_t fft_len;        // N of the FFT method; -1 when absent
-  void* fft_spec;              // real FFT specification, or null
-  std::uint32_t fft_taps;      // N floats of transformed taps (Perm), 0 when absent
+  void* fft_spec;              // complex FFT specification (half length), or null
+  std::uint32_t fft_taps;      // 4N values: factor tables of the spectral step, 0 when absent
   std::int32_t dly_index;      // start of the history inside the delay-line area
   std::uint32_t taps_x4;       // each reversed tap repeated four times
   std::int32_t dly_len;        // history samples exchanged with the caller (= L)
@@ -35,7 +35,7 @@ struct Record {
   std::int32_t owned;          // 1: made by InitAlloc, released by Free
   std::int32_t taps_factor;    // power-of-two factor of integer taps
   std::int32_t work_len;       // samples of the data type the work area holds
-  std::uint32_t fft_blocks;    // per-thread N-float blocks of the FFT method, 0 when absent
+  std::uint32_t fft_blocks;    // per-thread block areas (2N values) of the FFT method, 0 when absent
   std::int32_t fft_threads;    // threads the FFT blocks, work buffers and statuses were sized for
 };
 static_assert(sizeof(Record) <= 80, "the header must fit the smallest documented header");

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <complex>
 #include <cstdint>
 #include <limits>
 #include <new>
@@ -23,6 +24,10 @@ namespace {
 // Outputs read straight from the caller's input are computed in a parallel
 // region when the block has more samples than this.
 constexpr int kParallelMinIters = 160000;
+// Outputs (direct method) or block outputs (FFT method) per piece of work
+// handed to a thread: some tens of microseconds, so the hand-out costs
+// nothing and the threads finish close together.
+constexpr std::size_t kParallelChunk = 16384;
 // The FFT method is chosen for blocks of at least this many samples.
 constexpr int kFftMinIters = 512;
 // The 64f_32s worker filters a block in pieces of at most this many samples.
@@ -49,34 +54,6 @@ acc_t<tap_t<M>, data_t<M>> dot(const tap_t<M>* t, const data_t<M>* x, int L) {
   return acc;
 }
 
-// One-sample sum of the single-precision record: below four taps the
-// products are summed in extended precision; from four taps on, in four
-// running single-precision partial sums (partial sum j takes the products
-// whose index is j modulo 4), the 2- and 1-element tails going to the first
-// partial sums, combined pairwise at the end.
-float one_sum_32f(const float* t, const float* x, int L) {
-  if (L < 4) {
-    long double s = 0;
-    for (int k = 0; k < L; ++k) s += static_cast<long double>(t[k]) * x[k];
-    return static_cast<float>(s);
-  }
-  float s0 = 0, s1 = 0, s2 = 0, s3 = 0;
-  int k = 0;
-  for (; k + 4 <= L; k += 4) {
-    s0 = s0 + t[k] * x[k];
-    s1 = s1 + t[k + 1] * x[k + 1];
-    s2 = s2 + t[k + 2] * x[k + 2];
-    s3 = s3 + t[k + 3] * x[k + 3];
-  }
-  if (L - k >= 2) {
-    s0 = s0 + t[k] * x[k];
-    s1 = s1 + t[k + 1] * x[k + 1];
-    k += 2;
-  }
-  if (k < L) s0 = s0 + t[k] * x[k];
-  return (s0 + s1) + (s2 + s3);
-}
-
 // count outputs y[n] = sum over k of taps[k] * x[n+k]. The members whose
 // taps and data share a float type use the SIMD kernels; the others form
 // each sum in their accumulator and convert it.
@@ -99,9 +76,12 @@ void run_kernel(const Record* r, const data_t<M>* x, data_t<M>* y, std::size_t c
   }
 }
 
-// The same, split into contiguous ranges over the library's thread count.
-// Every output is formed by the same sequence of operations whoever
-// computes it, so the result does not depend on the split.
+// The same over the library's thread count, in chunks of kParallelChunk
+// outputs handed out as threads become free: a thread that starts late or
+// shares its core with other work takes fewer chunks instead of holding up
+// the others at the end, as a fixed split into equal ranges would. Every
+// output is formed by the same sequence of operations whoever computes it,
+// so the result does not depend on the split.
 template <class M>
 void run_kernel_parallel(const Record* r, const data_t<M>* x, data_t<M>* y, std::size_t count, int sf) {
   const int threads = threads_omp_of_n_kel;
@@ -109,13 +89,11 @@ void run_kernel_parallel(const Record* r, const data_t<M>* x, data_t<M>* y, std:
     run_kernel<M>(r, x, y, count, sf);
     return;
   }
-#pragma omp parallel num_threads(threads)
-  {
-    const std::uint64_t nt = static_cast<std::uint64_t>(omp_get_num_threads());
-    const std::uint64_t id = static_cast<std::uint64_t>(omp_get_thread_num());
-    const std::size_t lo = static_cast<std::size_t>(count * id / nt);
-    const std::size_t hi = static_cast<std::size_t>(count * (id + 1) / nt);
-    if (hi > lo) run_kernel<M>(r, x + lo, y + lo, hi - lo, sf);
+  const std::int64_t chunks = static_cast<std::int64_t>((count + kParallelChunk - 1) / kParallelChunk);
+#pragma omp parallel for num_threads(threads) schedule(dynamic, 1)
+  for (std::int64_t c = 0; c < chunks; ++c) {
+    const std::size_t lo = static_cast<std::size_t>(c) * kParallelChunk;
+    run_kernel<M>(r, x + lo, y + lo, std::min(kParallelChunk, count - lo), sf);
   }
 }
 
@@ -151,85 +129,179 @@ void direct_block(Record* r, const data_t<M>* src, data_t<M>* dst, int n, int sf
   else run_kernel<M>(r, rest_in, dst + L4, rest, sf);
 }
 
-// ---- Overlap-save through the real FFT.
+// ---- Overlap-save through the FFT.
 //
 // Prepared only on records made by InitAlloc with at least kFftMinTaps taps,
 // for the single-precision record (float transforms) and the "12IF" record
 // of the 64f_32s and _32s functions (double transforms of the integer data,
 // which convert exactly). The other records hold no FFT specification.
+//
+// A real block of N samples is transformed as m = N/2 complex values
+// z[i] = x[2i] + i x[2i+1] by the unscaled complex FFT of order log2(N) - 1.
+// The real spectrum X of the block, its product with the taps' spectrum H
+// and the half-length spectrum of the product are each linear in the pair
+// (Z[k], conj Z[m-k]), so the three steps fold into one pass
+//   Z'[k] = A[k] Z[k] + B[k] conj(Z[(m-k) mod m])
+// with factors (the 1/N of the inverse included) computed once from the
+// taps. The unscaled inverse of Z' is then the block's circular convolution
+// with the taps, again viewed as m complex values. Compared with real
+// transforms and a product of packed spectra, this saves the two passes
+// that split and rebuild the real spectrum, the separate product and the
+// scaling pass.
 constexpr int kFftMinTaps = 64;
 
 template <class M> constexpr bool has_fft = std::is_same_v<M, M32f> || std::is_same_v<M, M64f32s>;
 
-// The real-FFT functions of one precision.
+// The complex-FFT functions of one precision.
 struct FftApi32 {
   using F = Kel32f;
-  using Spec = KelsFFTSpec_R_32f;
-  static KelStatus init(Spec** p, int order) { return kelsFFTInitAlloc_R_32f(p, order, 2, 0); }
-  static KelStatus buf_size(const void* s, int* n) { return kelsFFTGetBufSize_R_32f(static_cast<const Spec*>(s), n); }
-  static KelStatus fwd(const F* a, F* b, const void* s, Kel8u* w) { return kelsFFTFwd_RToPerm_32f(a, b, static_cast<const Spec*>(s), w); }
-  static KelStatus inv(const F* a, F* b, const void* s, Kel8u* w) { return kelsFFTInv_PermToR_32f(a, b, static_cast<const Spec*>(s), w); }
-  static KelStatus mul(const F* a, F* b, int n) { return kelsMulPerm_32f_I(a, b, n); }
-  static void release(void* s) { kelsFFTFree_R_32f(static_cast<Spec*>(s)); }
+  using Cx = Kel32fc;
+  using Spec = KelsFFTSpec_C_32fc;
+  static KelStatus init(Spec** p, int order) { return kelsFFTInitAlloc_C_32fc(p, order, KEL_FFT_SCALE_NONE, 0); }
+  static KelStatus buf_size(const void* s, int* n) { return kelsFFTGetBufSize_C_32fc(static_cast<const Spec*>(s), n); }
+  static KelStatus fwd(const F* a, F* b, const void* s, Kel8u* w) {
+    return kelsFFTFwd_CToC_32fc(reinterpret_cast<const Cx*>(a), reinterpret_cast<Cx*>(b), static_cast<const Spec*>(s), w);
+  }
+  static KelStatus inv(const F* a, F* b, const void* s, Kel8u* w) {
+    return kelsFFTInv_CToC_32fc(reinterpret_cast<const Cx*>(a), reinterpret_cast<Cx*>(b), static_cast<const Spec*>(s), w);
+  }
+  static void spectral(const F* const tab[4], F* z, std::size_t m) { kernels::fir_spectral_f32(tab, z, m); }
+  static void release(void* s) { kelsFFTFree_C_32fc(static_cast<Spec*>(s)); }
 };
 struct FftApi64 {
   using F = Kel64f;
-  using Spec = KelsFFTSpec_R_64f;
-  static KelStatus init(Spec** p, int order) { return kelsFFTInitAlloc_R_64f(p, order, 2, 0); }
-  static KelStatus buf_size(const void* s, int* n) { return kelsFFTGetBufSize_R_64f(static_cast<const Spec*>(s), n); }
-  static KelStatus fwd(const F* a, F* b, const void* s, Kel8u* w) { return kelsFFTFwd_RToPerm_64f(a, b, static_cast<const Spec*>(s), w); }
-  static KelStatus inv(const F* a, F* b, const void* s, Kel8u* w) { return kelsFFTInv_PermToR_64f(a, b, static_cast<const Spec*>(s), w); }
-  static KelStatus mul(const F* a, F* b, int n) { return kelsMulPerm_64f_I(a, b, n); }
-  static void release(void* s) { kelsFFTFree_R_64f(static_cast<Spec*>(s)); }
+  using Cx = Kel64fc;
+  using Spec = KelsFFTSpec_C_64fc;
+  static KelStatus init(Spec** p, int order) { return kelsFFTInitAlloc_C_64fc(p, order, KEL_FFT_SCALE_NONE, 0); }
+  static KelStatus buf_size(const void* s, int* n) { return kelsFFTGetBufSize_C_64fc(static_cast<const Spec*>(s), n); }
+  static KelStatus fwd(const F* a, F* b, const void* s, Kel8u* w) {
+    return kelsFFTFwd_CToC_64fc(reinterpret_cast<const Cx*>(a), reinterpret_cast<Cx*>(b), static_cast<const Spec*>(s), w);
+  }
+  static KelStatus inv(const F* a, F* b, const void* s, Kel8u* w) {
+    return kelsFFTInv_CToC_64fc(reinterpret_cast<const Cx*>(a), reinterpret_cast<Cx*>(b), static_cast<const Spec*>(s), w);
+  }
+  static void spectral(const F* const tab[4], F* z, std::size_t m) { kernels::fir_spectral_f64(tab, z, m); }
+  static void release(void* s) { kelsFFTFree_C_64fc(static_cast<Spec*>(s)); }
 };
 template <class M> using fft_api = std::conditional_t<std::is_same_v<M, M32f>, FftApi32, FftApi64>;
 template <class M> using fft_t = typename fft_api<M>::F;
 
-// Areas of the FFT method behind the record, in one allocation: transformed
-// taps (N values), per-thread statuses, per-thread N-value blocks, per-thread
-// FFT work buffers (each rounded up to 16 bytes).
+// Areas of the FFT method behind the record, in one allocation: the four
+// factor tables of the spectral step (N values each), then per thread a
+// status, a block area (two N-value buffers) and an FFT work buffer. Per-thread areas are
+// rounded up to whole cache lines plus one spare line, so whatever the
+// alignment of the record no two threads ever write to the same line.
+constexpr std::uint64_t thread_stride(std::uint64_t bytes) { return ((bytes + 63) & ~std::uint64_t{63}) + 64; }
+
 struct FftLayout {
-  std::uint64_t taps, status, blocks, work, work_stride, end;
+  std::uint64_t taps, status, blocks, work, end;
 };
+// Each thread's block area holds two N-value buffers: the transforms run
+// out of place (block -> spectrum -> block), which the FFT does markedly
+// faster than in place at the larger lengths.
+template <class M>
+std::uint64_t fft_block_stride(int N) {
+  return thread_stride(2 * static_cast<std::uint64_t>(N) * sizeof(fft_t<M>));
+}
 template <class M>
 FftLayout fft_layout(std::uint64_t start, int N, int threads, int buf_size) {
+  const std::uint64_t T = static_cast<std::uint64_t>(threads);
   FftLayout f{};
   f.taps = r16(start);
-  f.status = f.taps + r16(static_cast<std::uint64_t>(N) * sizeof(fft_t<M>));
-  f.blocks = f.status + r16(static_cast<std::uint64_t>(threads) * sizeof(int));
-  f.work = f.blocks + static_cast<std::uint64_t>(threads) * r16(static_cast<std::uint64_t>(N) * sizeof(fft_t<M>));
-  f.work_stride = r16(static_cast<std::uint64_t>(buf_size < 0 ? 0 : buf_size));
-  f.end = f.work + static_cast<std::uint64_t>(threads) * f.work_stride;
+  f.status = f.taps + 4 * r16(static_cast<std::uint64_t>(N) * sizeof(fft_t<M>));
+  f.blocks = f.status + T * thread_stride(sizeof(int));
+  f.work = f.blocks + T * fft_block_stride<M>(N);
+  f.end = f.work + T * thread_stride(static_cast<std::uint64_t>(buf_size < 0 ? 0 : buf_size));
   return f;
 }
 
-// FFT work buffer of thread t (null when the transform needs none).
+// Per-thread areas of thread t: status, block, FFT work buffer (null when
+// the transform needs none).
+template <class M>
+int* fft_status_of(Record* r, int t) {
+  const std::uint64_t taps_bytes = 4 * r16(static_cast<std::uint64_t>(r->fft_len) * sizeof(fft_t<M>));
+  return area<int>(r, r->fft_taps + static_cast<std::uint32_t>(taps_bytes + static_cast<std::uint64_t>(t) * thread_stride(sizeof(int))));
+}
+template <class M>
+fft_t<M>* fft_block_of(Record* r, int t) {
+  return area<fft_t<M>>(r, r->fft_blocks + static_cast<std::uint32_t>(static_cast<std::uint64_t>(t) * fft_block_stride<M>(r->fft_len)));
+}
 template <class M>
 Kel8u* fft_work_of(Record* r, int t) {
   int size = 0;
   fft_api<M>::buf_size(r->fft_spec, &size);
   if (size <= 0) return nullptr;
-  return area<Kel8u>(r, r->fft_work) + static_cast<std::size_t>(t) * r16(static_cast<std::uint64_t>(size));
+  return area<Kel8u>(r, r->fft_work) + static_cast<std::size_t>(t) * thread_stride(static_cast<std::uint64_t>(size));
 }
 
-// Transformed taps: the taps in the caller's order, zero-padded to N, to the
-// Perm format. A failing transform releases the specification, so the FFT
-// method is no longer chosen.
+// Factor tables of the spectral step from the half-length spectrum zh of
+// the taps (in the caller's order, zero-padded to N), in double precision:
+// H[k] = (a + b)/2 + W^k (a - b)/(2i) with a = zh[k mod m],
+// b = conj zh[(m-k) mod m], W = e^(-2 pi i/N). The block's real spectrum is
+// X[e] = p a + q b with p = (1 - iW^e)/2, q = (1 + iW^e)/2 (a, b taken at
+// e), and the half-length spectrum of the output real spectrum Y is
+// Z'[e] = (1 + i c) Y[e] + (1 - i c) conj Y[m-e], c = conj W^e; with
+// Y = H X / N these give A[e] and B[e] below.
+template <class F>
+void fill_spectral_tables(const F* zh, int N, F* tab) {
+  using cd = std::complex<double>;
+  const std::size_t m = static_cast<std::size_t>(N) / 2;
+  const double pi = 3.14159265358979323846;
+  const cd i1(0, 1);
+  auto W = [&](std::size_t k) {
+    const double a = -2 * pi * static_cast<double>(k) / N;
+    return cd(std::cos(a), std::sin(a));
+  };
+  auto Zh = [&](std::size_t k) { return cd(zh[2 * (k % m)], zh[2 * (k % m) + 1]); };
+  auto H = [&](std::size_t k) {
+    const cd a = Zh(k), b = std::conj(Zh(m - k));
+    return (a + b) * 0.5 + W(k) * (a - b) / (2.0 * i1);
+  };
+  for (std::size_t e = 0; e < m; ++e) {
+    const cd w = W(e);
+    const cd wp = -std::conj(w);  // W^(m-e)
+    const cd c = std::conj(w);
+    const cd p = (1.0 - i1 * w) / 2.0, q = (1.0 + i1 * w) / 2.0;
+    const cd pp = (1.0 - i1 * wp) / 2.0, qp = (1.0 + i1 * wp) / 2.0;
+    const cd he = H(e), hp = std::conj(H(m - e));
+    const cd A = ((1.0 + i1 * c) * he * p + (1.0 - i1 * c) * hp * std::conj(qp)) / static_cast<double>(N);
+    const cd B = ((1.0 + i1 * c) * he * q + (1.0 - i1 * c) * hp * std::conj(pp)) / static_cast<double>(N);
+    F* t0 = tab + 2 * e;
+    F* t1 = t0 + N;
+    F* t2 = t1 + N;
+    F* t3 = t2 + N;
+    t0[0] = static_cast<F>(A.real());
+    t0[1] = static_cast<F>(A.real());
+    t1[0] = static_cast<F>(-A.imag());
+    t1[1] = static_cast<F>(A.imag());
+    t2[0] = static_cast<F>(B.real());
+    t2[1] = static_cast<F>(-B.real());
+    t3[0] = static_cast<F>(B.imag());
+    t3[1] = static_cast<F>(B.imag());
+  }
+}
+
+// Transformed taps: the taps in the caller's order, zero-padded to N, are
+// transformed in thread 0's block and turned into the factor tables. A
+// failing transform releases the specification, so the FFT method is no
+// longer chosen.
 template <class M>
 KelStatus fft_prepare_taps(Record* r) {
   using F = fft_t<M>;
   const int L = r->taps_len;
   const int N = r->fft_len;
-  F* ft = area<F>(r, r->fft_taps);
+  F* z = fft_block_of<M>(r, 0);
   const tap_t<M>* t = area<tap_t<M>>(r, r->taps);
-  for (int k = 0; k < L; ++k) ft[k] = static_cast<F>(t[L - 1 - k]);
-  zero_n(ft + L, N - L);
-  const KelStatus st = fft_api<M>::fwd(ft, ft, r->fft_spec, fft_work_of<M>(r, 0));
+  for (int k = 0; k < L; ++k) z[k] = static_cast<F>(t[L - 1 - k]);
+  zero_n(z + L, N - L);
+  const KelStatus st = fft_api<M>::fwd(z, z + N, r->fft_spec, fft_work_of<M>(r, 0));
   if (st < 0) {
     fft_api<M>::release(r->fft_spec);
     r->fft_spec = nullptr;
     r->fft_len = -1;
+    return st;
   }
+  fill_spectral_tables(z + N, N, area<F>(r, r->fft_taps));
   return st;
 }
 
@@ -250,14 +322,20 @@ void fft_store(const fft_t<M>* b, data_t<M>* y, int n, int sf) {
   }
 }
 
-// Circular convolution of the block b with the taps: forward transform
-// (from src, which may be b), product with the transformed taps, inverse.
+// Circular convolution of the block at src (the caller's input, or b) with
+// the taps into b: forward transform into the spectrum buffer b + N,
+// spectral step there, inverse back into b.
 template <class M>
 KelStatus fft_convolve(const Record* r, const fft_t<M>* src, fft_t<M>* b, Kel8u* w) {
   using A = fft_api<M>;
-  KELS_RETURN_IF_ERROR(A::fwd(src, b, r->fft_spec, w));
-  KELS_RETURN_IF_ERROR(A::mul(area<fft_t<M>>(r, r->fft_taps), b, r->fft_len));
-  return A::inv(b, b, r->fft_spec, w);
+  using F = fft_t<M>;
+  const std::size_t N = static_cast<std::size_t>(r->fft_len);
+  F* z = b + N;
+  KELS_RETURN_IF_ERROR(A::fwd(src, z, r->fft_spec, w));
+  const F* base = area<F>(r, r->fft_taps);
+  const F* const tab[4] = {base, base + N, base + 2 * N, base + 3 * N};
+  A::spectral(tab, z, N / 2);
+  return A::inv(z, b, r->fft_spec, w);
 }
 
 // Block starting at in[i] of the long path: M overlap samples then S new
@@ -289,9 +367,10 @@ KelStatus fft_one_block(Record* r, const data_t<M>* in, data_t<M>* out, int R, i
 // Overlap-save block filter. The first block takes its M overlap samples
 // from the history; the history is then replaced before the remaining
 // blocks, which read only the input. Above kParallelMinIters samples the
-// remaining blocks are split into contiguous ranges over the threads, each
-// with its own block and work buffer; every block is computed by the same
-// operations whoever computes it, so outputs do not depend on the split.
+// remaining blocks are handed out to the threads in chunks of about
+// kParallelChunk outputs as they become free, each thread with its own
+// buffers; every block is computed by the same operations whoever computes
+// it, so outputs do not depend on the split.
 template <class M>
 KelStatus fft_block(Record* r, const data_t<M>* src, data_t<M>* dst, int n, int sf) {
   using D = data_t<M>;
@@ -302,7 +381,7 @@ KelStatus fft_block(Record* r, const data_t<M>* src, data_t<M>* dst, int n, int 
   const int S = N - hist;
   D* dly = area<D>(r, r->dly);
   D* h = dly + r->dly_index;
-  F* b = area<F>(r, r->fft_blocks);
+  F* b = fft_block_of<M>(r, 0);
   Kel8u* w = fft_work_of<M>(r, 0);
   fft_load<M>(h + 1, b, hist);
   if (n <= S) {
@@ -331,23 +410,22 @@ KelStatus fft_block(Record* r, const data_t<M>* src, data_t<M>* dst, int n, int 
     for (int j = 0; j < blocks; ++j) KELS_RETURN_IF_ERROR(fft_one_block<M>(r, in, out, R, j * S, b, w, sf));
     return kelStsOk;
   }
-  int* status = area<int>(r, r->fft_taps + static_cast<std::uint32_t>(r16(static_cast<std::uint64_t>(N) * sizeof(F))));
-  for (int t = 0; t < threads; ++t) status[t] = kelStsOk;
-  const std::size_t block_stride = static_cast<std::size_t>(r16(static_cast<std::uint64_t>(N) * sizeof(F)) / sizeof(F));
+  for (int t = 0; t < threads; ++t) *fft_status_of<M>(r, t) = kelStsOk;
+  const int per_chunk = std::max(1, static_cast<int>(kParallelChunk) / S);
 #pragma omp parallel num_threads(threads)
   {
-    const std::int64_t nt = omp_get_num_threads();
     const int id = omp_get_thread_num();
-    const int lo = static_cast<int>(blocks * id / nt);
-    const int hi = static_cast<int>(blocks * (id + 1) / nt);
-    F* bt = b + block_stride * static_cast<std::size_t>(id);
+    F* bt = fft_block_of<M>(r, id);
     Kel8u* wt = fft_work_of<M>(r, id);
     int st = kelStsOk;
-    for (int j = lo; j < hi && st >= 0; ++j) st = fft_one_block<M>(r, in, out, R, j * S, bt, wt, sf);
-    status[id] = st;
+#pragma omp for schedule(dynamic, per_chunk)
+    for (int j = 0; j < blocks; ++j) {
+      if (st >= 0) st = fft_one_block<M>(r, in, out, R, j * S, bt, wt, sf);
+    }
+    *fft_status_of<M>(r, id) = st;
   }
   int worst = kelStsOk;
-  for (int t = 0; t < threads; ++t) worst = std::min(worst, status[t]);
+  for (int t = 0; t < threads; ++t) worst = std::min(worst, *fft_status_of<M>(r, t));
   return static_cast<KelStatus>(worst);
 }
 
@@ -400,7 +478,7 @@ data_t<M> one_step(Record* r, data_t<M> x, int sf) {
   const tap_t<M>* t = area<tap_t<M>>(r, r->taps);
   if constexpr (std::is_same_v<M, M32f>) {
     (void)sf;
-    return one_sum_32f(t, d + i, L);
+    return kernels::scalar::sum_f32(t, static_cast<std::size_t>(L), d + i);
   } else {
     return convert<D>(dot<M>(t, d + i, L), sf, sum_factor<M>(r));
   }
@@ -596,7 +674,8 @@ void load_double_as_int(const Record* r, Kel32s* p, int* factor) {
 }
 
 // FFT preparation of InitAlloc: order = (smallest k >= 2 with 2^k > L) + 1,
-// so N > 2L and each block yields S = N - L + 1 > L + 1 outputs. A length
+// so N > 2L and each block yields S = N - L + 1 > L + 1 outputs; the
+// complex transform of the method has order - 1. A length
 // the transforms do not support, or areas too large for the record's
 // offsets, leave the record without the method; running out of memory
 // fails the call.
@@ -611,7 +690,7 @@ KelStatus fft_plan(int L, std::uint64_t record_bytes, void** spec, FftPlan* plan
   while ((std::int64_t{1} << order) <= L) ++order;
   ++order;
   typename A::Spec* s = nullptr;
-  const KelStatus st = A::init(&s, order);
+  const KelStatus st = A::init(&s, order - 1);
   if (st == kelStsNoMemory) return st;
   if (st < 0) return kelStsOk;
   int buf = 0;

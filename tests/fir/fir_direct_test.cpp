@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <limits>
 #include <random>
 #include <vector>
 
@@ -332,6 +333,44 @@ TEST(FirDirect32f, SumsSingleProductsInExtendedPrecision) {
   int i3 = 0;
   for (float v : {big, 1.0f, 1.0f}) ASSERT_EQ(kelsFIROne_Direct_32f(v, &y3, taps, 3, d3, &i3), kelStsOk);
   EXPECT_EQ(y3, big + 2);
+}
+
+// Long blocks mix pieces whose sums the double-precision kernels form
+// exactly with pieces that keep the extended-precision accumulation (a tiny
+// sample, a subnormal, an infinity, all-zero stretches), both in the first
+// L-1 outputs (which reach into the history) and after; every output equals
+// the one-sample step's bit for bit, over two consecutive blocks from a
+// random history and index, with tap counts on both sides of the 2049 up to
+// which the first outputs are formed from a copy.
+TEST(FirDirect32f, LongBlocksEqualOneSampleSteps) {
+  std::mt19937 g(44);
+  std::uniform_real_distribution<float> u(0.5f, 1.0f);
+  auto sample = [&] { return u(g) * ((g() & 1) ? 1.f : -1.f); };
+  for (int L : {4, 40, 300, 2049, 2100}) {
+    std::vector<Kel32f> taps(static_cast<std::size_t>(L));
+    for (auto& t : taps) t = sample();
+    const int n = 3000;
+    std::vector<Kel32f> x(2 * static_cast<std::size_t>(n));
+    for (auto& v : x) v = sample();
+    x[10] = 1e-30f;
+    x[700] = 1e-30f;
+    x[1300] = 1e-40f;
+    for (int i = 1500; i < 1500 + 2 * L && i < 2 * n; ++i) x[static_cast<std::size_t>(i)] = 0;
+    x[2500] = std::numeric_limits<float>::infinity();
+    std::vector<Kel32f> d1(2 * static_cast<std::size_t>(L));
+    for (int k = 0; k < L; ++k) d1[static_cast<std::size_t>(k)] = d1[static_cast<std::size_t>(k + L)] = sample();
+    std::vector<Kel32f> d2 = d1, y1(x.size()), y2(x.size());
+    int i1 = L / 3, i2 = L / 3;
+    for (int b = 0; b < 2; ++b) {
+      ASSERT_EQ(kelsFIR_Direct_32f(x.data() + b * n, y1.data() + b * n, n, taps.data(), L, d1.data(), &i1), kelStsOk);
+    }
+    for (std::size_t i = 0; i < x.size(); ++i) {
+      ASSERT_EQ(kelsFIROne_Direct_32f(x[i], &y2[i], taps.data(), L, d2.data(), &i2), kelStsOk);
+    }
+    EXPECT_TRUE(same_vec(y1, y2)) << "L=" << L;
+    EXPECT_TRUE(same_vec(d1, d2));
+    EXPECT_EQ(i1, i2);
+  }
 }
 
 // The caller-held and state forms filter alike.

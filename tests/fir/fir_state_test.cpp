@@ -68,7 +68,7 @@ namespace {
 
 // (name, taps prefix, data code, taps type, data type, state, taps kind, filter kind, one == block bitwise)
 #define KELS_TEST_FIR_MEMBERS(X)                                                                        \
-  X(F32f, , 32f, Kel32f, Kel32f, KelsFIRState_32f, PLAIN, FLOAT, false)                               \
+  X(F32f, , 32f, Kel32f, Kel32f, KelsFIRState_32f, PLAIN, FLOAT, true)                                \
   X(F32fc, , 32fc, Kel32fc, Kel32fc, KelsFIRState_32fc, PLAIN, FLOAT, true)                           \
   X(F64f, , 64f, Kel64f, Kel64f, KelsFIRState_64f, PLAIN, FLOAT, true)                                \
   X(F64fc, , 64fc, Kel64fc, Kel64fc, KelsFIRState_64fc, PLAIN, FLOAT, true)                           \
