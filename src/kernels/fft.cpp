@@ -340,8 +340,14 @@ void Dft16Contiguous(D d, const T* src, T* dst) {
   Dft4(o, u[0], u[1], u[2], u[3]);
   for (size_t k1 = 1; k1 < 4; ++k1) u[k1] = o.mul(u[k1], C{hn::Load(d, Tw16<T>::v[k1 - 1])});
   TransposeCx(d, u);
-  Dft4(o, u[0], u[1], u[2], u[3]);
-  for (size_t a = 0; a < 4; ++a) o.store(dst, nullptr, 4 * a, u[a]);
+  // Separate variables: stored from an array, the four vectors are copied
+  // through the stack as one block.
+  C x0 = u[0], x1 = u[1], x2 = u[2], x3 = u[3];
+  Dft4(o, x0, x1, x2, x3);
+  o.store(dst, nullptr, 0, x0);
+  o.store(dst, nullptr, 4, x1);
+  o.store(dst, nullptr, 8, x2);
+  o.store(dst, nullptr, 12, x3);
 }
 
 // Natural-order B-point DFT (B = 8 or 16) of y[0..B-1], each lane an
