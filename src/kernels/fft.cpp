@@ -433,49 +433,9 @@ void SmallFour(D d, const T* src, T* dst, const T* stage) {
 }
 
 
-// First pass of the interleaved engine on blocks of B = 16 (even leaf
-// orders) or 8 points: the first two radix-4 stages (radix-2 and radix-4
-// for B = 8) as one in-register B-point transform. Lanes run over V
-// consecutive transforms; each lane's B results are regrouped by V x V
-// transposes and stored as contiguous runs of its block.
-//   fused:  block m = rev(B r) takes src[r + s N/B], s = 0..B-1 (the
-//           permutation happens in the loads and stores);
-//   else:   the array was permuted already; block m holds its inputs in
-//           bit-reversed position order and is transformed in place.
 // Largest transform whose double-precision first pass uses full-width
 // vectors.
 constexpr size_t kWideLeadMax = 2048;
-
-template <size_t B, bool INV, class D, class T>
-void LeadBlocks(D d, const T* src, T* dst, size_t n, const scalar::BitRev& rev, bool fused) {
-  const CxOps<D, 2, INV> o(d);
-  using C = typename CxOps<D, 2, INV>::C;
-  const size_t V = hn::Lanes(d) / 2;
-  const size_t cnt = n / B;
-  size_t base[4];
-  for (size_t r = 0; r < cnt; r += V) {
-    C y[B];
-    if (fused) {
-      for (size_t s = 0; s < B; ++s) y[s] = o.load(src, nullptr, r + s * cnt);
-      for (size_t i = 0; i < V; ++i) base[i] = B * rev(B * (r + i));
-    } else {
-      for (size_t i = 0; i < V; ++i) base[i] = B * (r + i);
-      for (size_t g = 0; g < B; g += V) {
-        C u[4];
-        for (size_t i = 0; i < V; ++i) u[i] = o.load(dst, nullptr, base[i] + g);
-        TransposeCx(d, u);
-        for (size_t j = 0; j < V; ++j) y[B == 16 ? kRev16[g + j] : kRev8[g + j]] = u[j];
-      }
-    }
-    DftLanes<B>(o, y);
-    for (size_t g = 0; g < B; g += V) {
-      C u[4];
-      for (size_t i = 0; i < V; ++i) u[i] = y[g + i];
-      TransposeCx(d, u);
-      for (size_t i = 0; i < V; ++i) o.store(dst, nullptr, base[i] + g, u[i]);
-    }
-  }
-}
 
 // Transposes V x V real values held in V vectors of V lanes (V = 2 or 4).
 template <class D, class V>
@@ -507,51 +467,87 @@ HWY_INLINE void TransposeReal(D d, V* v) {
   }
 }
 
-// The first pass of the split layout: as LeadBlocks, with separate real and
-// imaginary vectors whose lanes run over V consecutive transforms.
-template <size_t B, bool INV, class D, class T>
-void LeadBlocksSplit(D d, const T* sre, const T* sim, T* dre, T* dim, size_t n,
-                     const scalar::BitRev& rev, bool fused) {
-  const CxOps<D, 1, INV> o(d);
-  using C = typename CxOps<D, 1, INV>::C;
-  using V = hn::Vec<D>;
-  const size_t NV = hn::Lanes(d);
-  const size_t cnt = n / B;
-  size_t base[4];
-  for (size_t r = 0; r < cnt; r += NV) {
-    C y[B];
-    if (fused) {
-      for (size_t s = 0; s < B; ++s) y[s] = o.load(sre, sim, r + s * cnt);
-      for (size_t i = 0; i < NV; ++i) base[i] = B * rev(B * (r + i));
-    } else {
-      for (size_t i = 0; i < NV; ++i) base[i] = B * (r + i);
-      for (size_t g = 0; g < B; g += NV) {
-        V ur[4], ui[4];
-        for (size_t i = 0; i < NV; ++i) {
-          ur[i] = hn::LoadU(d, dre + base[i] + g);
-          ui[i] = hn::LoadU(d, dim + base[i] + g);
-        }
-        TransposeReal(d, ur);
-        TransposeReal(d, ui);
-        for (size_t j = 0; j < NV; ++j) y[B == 16 ? kRev16[g + j] : kRev8[g + j]] = C{ur[j], ui[j]};
-      }
+// Lane i of u[j] <- element g + j of block i (blocks at base[0..V-1]), and
+// back: V x V transposes of complex values (interleaved) or of the real and
+// imaginary parts (split).
+template <int S, class O, class T, class C>
+HWY_INLINE void LoadTransposed(const O& o, const T* re, const T* im, const size_t* base, size_t g,
+                               C* u) {
+  const size_t V = hn::Lanes(o.d) / S;
+  if constexpr (S == 2) {
+    for (size_t i = 0; i < V; ++i) u[i] = o.load(re, im, base[i] + g);
+    TransposeCx(o.d, u);
+  } else {
+    hn::Vec<decltype(o.d)> ur[4], ui[4];
+    for (size_t i = 0; i < V; ++i) {
+      ur[i] = hn::LoadU(o.d, re + base[i] + g);
+      ui[i] = hn::LoadU(o.d, im + base[i] + g);
     }
-    DftLanes<B>(o, y);
-    for (size_t g = 0; g < B; g += NV) {
-      V ur[4], ui[4];
-      for (size_t i = 0; i < NV; ++i) {
-        ur[i] = y[g + i].r;
-        ui[i] = y[g + i].i;
-      }
-      TransposeReal(d, ur);
-      TransposeReal(d, ui);
-      for (size_t i = 0; i < NV; ++i) {
-        hn::StoreU(ur[i], d, dre + base[i] + g);
-        hn::StoreU(ui[i], d, dim + base[i] + g);
-      }
+    TransposeReal(o.d, ur);
+    TransposeReal(o.d, ui);
+    for (size_t j = 0; j < V; ++j) u[j] = C{ur[j], ui[j]};
+  }
+}
+template <int S, class O, class T, class C>
+HWY_INLINE void StoreTransposed(const O& o, C* u, const size_t* base, size_t g, T* re, T* im) {
+  const size_t V = hn::Lanes(o.d) / S;
+  if constexpr (S == 2) {
+    TransposeCx(o.d, u);
+    for (size_t i = 0; i < V; ++i) o.store(re, im, base[i] + g, u[i]);
+  } else {
+    hn::Vec<decltype(o.d)> ur[4], ui[4];
+    for (size_t i = 0; i < V; ++i) {
+      ur[i] = u[i].r;
+      ui[i] = u[i].i;
+    }
+    TransposeReal(o.d, ur);
+    TransposeReal(o.d, ui);
+    for (size_t i = 0; i < V; ++i) {
+      hn::StoreU(ur[i], o.d, re + base[i] + g);
+      hn::StoreU(ui[i], o.d, im + base[i] + g);
     }
   }
 }
+
+// First pass of the engine on blocks of B = 16 (even leaf orders) or 8
+// points: the first two radix-4 stages (radix-2 and radix-4 for B = 8) as
+// one in-register B-point transform. Lanes run over V consecutive
+// transforms; each lane's B results are regrouped by V x V transposes and
+// stored as contiguous runs of its block.
+//   fused:  block m = rev(B r) takes src[r + s N/B], s = 0..B-1 (the
+//           permutation happens in the loads and stores);
+//   else:   the array was permuted already; block m holds its inputs in
+//           bit-reversed position order and is transformed in place.
+template <size_t B, bool INV, int S, class D, class T>
+void LeadBlocks(D d, const T* sre, const T* sim, T* dre, T* dim, size_t n,
+                const scalar::BitRev& rev, bool fused) {
+  const CxOps<D, S, INV> o(d);
+  using C = typename CxOps<D, S, INV>::C;
+  const size_t V = hn::Lanes(d) / S;
+  const size_t cnt = n / B;
+  size_t base[4];
+  for (size_t r = 0; r < cnt; r += V) {
+    C y[B];
+    if (fused) {
+      for (size_t s = 0; s < B; ++s) y[s] = o.load(sre, sim, r + s * cnt);
+      for (size_t i = 0; i < V; ++i) base[i] = B * rev(B * (r + i));
+    } else {
+      for (size_t i = 0; i < V; ++i) base[i] = B * (r + i);
+      for (size_t g = 0; g < B; g += V) {
+        C u[4];
+        LoadTransposed<S>(o, dre, dim, base, g, u);
+        for (size_t j = 0; j < V; ++j) y[B == 16 ? kRev16[g + j] : kRev8[g + j]] = u[j];
+      }
+    }
+    DftLanes<B>(o, y);
+    for (size_t g = 0; g < B; g += V) {
+      C u[4];
+      for (size_t i = 0; i < V; ++i) u[i] = y[g + i];
+      StoreTransposed<S>(o, u, base, g, dre, dim);
+    }
+  }
+}
+
 
 // Column pass of the stepped scheme for one group of four columns (one
 // vector of four complex values per row), interleaved layout. Row b of the
@@ -703,14 +699,14 @@ struct VecPasses : scalar::Passes<T, S> {
     // vectors (two complex values, shorter transposes) than with 512-bit.
     const hn::CappedTag<T, 32 / sizeof(T)> dw;
     if (sizeof(T) == 8 && n > kWideLeadMax && cnt >= hn::Lanes(dw) / 2) {
-      if (leaf & 1) LeadBlocks<8, INV>(dw, src, dst, n, rev, fused);
-      else LeadBlocks<16, INV>(dw, src, dst, n, rev, fused);
+      if (leaf & 1) LeadBlocks<8, INV, 2>(dw, src, src + 1, dst, dst + 1, n, rev, fused);
+      else LeadBlocks<16, INV, 2>(dw, src, src + 1, dst, dst + 1, n, rev, fused);
     } else if (cnt >= hn::Lanes(d4) / 2) {
-      if (leaf & 1) LeadBlocks<8, INV>(d4, src, dst, n, rev, fused);
-      else LeadBlocks<16, INV>(d4, src, dst, n, rev, fused);
+      if (leaf & 1) LeadBlocks<8, INV, 2>(d4, src, src + 1, dst, dst + 1, n, rev, fused);
+      else LeadBlocks<16, INV, 2>(d4, src, src + 1, dst, dst + 1, n, rev, fused);
     } else {
-      if (leaf & 1) LeadBlocks<8, INV>(d1, src, dst, n, rev, fused);
-      else LeadBlocks<16, INV>(d1, src, dst, n, rev, fused);
+      if (leaf & 1) LeadBlocks<8, INV, 2>(d1, src, src + 1, dst, dst + 1, n, rev, fused);
+      else LeadBlocks<16, INV, 2>(d1, src, src + 1, dst, dst + 1, n, rev, fused);
     }
     return leaf & 1 ? 8 : 16;
   }
@@ -720,12 +716,12 @@ struct VecPasses : scalar::Passes<T, S> {
       const hn::CappedTag<T, 4> d;
       if (n / 16 >= hn::Lanes(d) && hn::Lanes(d) >= 2) {
         if (leaf & 1) {
-          if (inv) LeadBlocksSplit<8, true>(d, sre, sim, dre, dim, n, rev, fused);
-          else LeadBlocksSplit<8, false>(d, sre, sim, dre, dim, n, rev, fused);
+          if (inv) LeadBlocks<8, true, 1>(d, sre, sim, dre, dim, n, rev, fused);
+          else LeadBlocks<8, false, 1>(d, sre, sim, dre, dim, n, rev, fused);
           return 8;
         }
-        if (inv) LeadBlocksSplit<16, true>(d, sre, sim, dre, dim, n, rev, fused);
-        else LeadBlocksSplit<16, false>(d, sre, sim, dre, dim, n, rev, fused);
+        if (inv) LeadBlocks<16, true, 1>(d, sre, sim, dre, dim, n, rev, fused);
+        else LeadBlocks<16, false, 1>(d, sre, sim, dre, dim, n, rev, fused);
         return 16;
       }
       return Base::lead(sre, sim, dre, dim, n, leaf, rev, fused, inv, first);
