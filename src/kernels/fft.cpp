@@ -408,6 +408,29 @@ HWY_INLINE void DftLanes(const O& o, C* y) {
   }
 }
 
+// The 16-point transform of real single-precision data: the 16-point
+// codelet on (x, 0), the zero imaginary parts made by widening each value to
+// 64 bits. Writes the whole spectrum X[0..15] (32 values).
+template <class D>
+void Real16Forward(D d, const float* x, float* out) {
+  const CxOps<D, 2, false> o(d);
+  using C = typename CxOps<D, 2, false>::C;
+  const hn::Repartition<uint64_t, D> du;
+  const hn::Rebind<uint32_t, decltype(du)> d32;
+  const auto* xu = reinterpret_cast<const uint32_t*>(x);
+  C u[4];
+  for (size_t a = 0; a < 4; ++a) u[a].v = hn::BitCast(d, hn::PromoteTo(du, hn::LoadU(d32, xu + 4 * a)));
+  Dft4(o, u[0], u[1], u[2], u[3]);
+  for (size_t k1 = 1; k1 < 4; ++k1) u[k1] = o.mul(u[k1], C{hn::Load(d, Tw16<float>::v[k1 - 1])});
+  TransposeCx(d, u);
+  C x0 = u[0], x1 = u[1], x2 = u[2], x3 = u[3];
+  Dft4(o, x0, x1, x2, x3);
+  o.store(out, nullptr, 0, x0);
+  o.store(out, nullptr, 4, x1);
+  o.store(out, nullptr, 8, x2);
+  o.store(out, nullptr, 12, x3);
+}
+
 // Transforms of N = 4B points (B = 8 or 16) in registers, vectors of four
 // complex values: x = 4 s + r with r in the lanes; B-point transforms across
 // the vectors, 4 x 4 transposes that bring r across the vectors, twiddles
@@ -1171,7 +1194,19 @@ bool SmallInterleaved(const T* src, T* dst, int order, const T* first, const uin
   return true;
 }
 
+bool Real16ForwardF32(const float* x, float* out) {
+  const hn::CappedTag<float, 8> d;
+  if constexpr (hn::MaxLanes(decltype(d)()) != 8) {
+    return false;
+  } else {
+    Real16Forward(d, x, out);
+    return true;
+  }
+}
+
 #else  // HWY_SCALAR: the portable twin
+
+bool Real16ForwardF32(const float*, float*) { return false; }
 
 template <class T>
 bool SmallInterleaved(const T*, T*, int, const T*, const uint32_t*, bool, bool, T) {
@@ -1207,12 +1242,17 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace kels::kernels {
 
+HWY_EXPORT(Real16ForwardF32);
 HWY_EXPORT(SmallInterleavedF32);
 HWY_EXPORT(SmallInterleavedF64);
 HWY_EXPORT(FftInterleavedF32);
 HWY_EXPORT(FftInterleavedF64);
 HWY_EXPORT(FftSplitF32);
 HWY_EXPORT(FftSplitF64);
+
+bool fft_real16_forward(const float* x, float* spectrum) {
+  return HWY_DYNAMIC_DISPATCH(Real16ForwardF32)(x, spectrum);
+}
 
 bool fft_small_interleaved(const float* src, float* dst, int order, const float* first,
                            const std::uint32_t* rev, bool inv, bool scaled, float scale) {

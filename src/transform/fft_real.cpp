@@ -150,6 +150,27 @@ void forward_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
     from_perm(dst, n, lay);
     return;
   }
+  if constexpr (sizeof(T) == 4) {
+    // Sixteen values: the whole spectrum from one in-register transform.
+    alignas(32) float x[32];
+    if (order == 4 && kernels::fft_real16_forward(src, x)) {
+      const T s = scaled ? h->scale() : T(1);
+      T* out = dst + (lay == Layout::Pack ? 1 : 2);
+      for (int i = 2; i < 16; ++i) out[i - 2] = x[i] * s;
+      dst[0] = x[0] * s;
+      const T xm = x[16] * s;
+      if (lay == Layout::Perm) {
+        dst[1] = xm;
+      } else if (lay == Layout::Ccs) {
+        dst[1] = 0;
+        dst[16] = xm;
+        dst[17] = 0;
+      } else {
+        dst[15] = xm;
+      }
+      return;
+    }
+  }
   T local[16];
   T* z = order == kLocalOrder ? local : lay == Layout::Pack && half_is_leaf(order, work) ? work : dst;
   run_complex(h, order - 1, src, z, z == work ? nullptr : work, false);
