@@ -123,8 +123,8 @@ void BM_FIR_32fc_plain(benchmark::State& st) {
 struct FftwOls {
   int n, L, N, S;
   float* blk;
-  fftwf_complex* spec;
-  fftwf_complex* hspec;
+  fftwf_complex* freq;
+  fftwf_complex* taps_freq;
   fftwf_plan fwd, inv;
   std::vector<float> stream;
   FftwOls(const float* taps, int n_, int L_) : n(n_), L(L_), N(4) {
@@ -132,21 +132,21 @@ struct FftwOls {
     N *= 2;
     S = N - L + 1;
     blk = fftwf_alloc_real(static_cast<std::size_t>(N));
-    spec = fftwf_alloc_complex(static_cast<std::size_t>(N / 2 + 1));
-    hspec = fftwf_alloc_complex(static_cast<std::size_t>(N / 2 + 1));
-    fwd = fftwf_plan_dft_r2c_1d(N, blk, spec, FFTW_MEASURE);
-    inv = fftwf_plan_dft_c2r_1d(N, spec, blk, FFTW_MEASURE);
+    freq = fftwf_alloc_complex(static_cast<std::size_t>(N / 2 + 1));
+    taps_freq = fftwf_alloc_complex(static_cast<std::size_t>(N / 2 + 1));
+    fwd = fftwf_plan_dft_r2c_1d(N, blk, freq, FFTW_MEASURE);
+    inv = fftwf_plan_dft_c2r_1d(N, freq, blk, FFTW_MEASURE);
     std::fill(blk, blk + N, 0.0f);
     std::copy(taps, taps + L, blk);
-    fftwf_execute_dft_r2c(fwd, blk, hspec);
+    fftwf_execute_dft_r2c(fwd, blk, taps_freq);
     stream.assign(static_cast<std::size_t>(n + L - 1), 0.0f);
   }
   ~FftwOls() {
     fftwf_destroy_plan(fwd);
     fftwf_destroy_plan(inv);
     fftwf_free(blk);
-    fftwf_free(spec);
-    fftwf_free(hspec);
+    fftwf_free(freq);
+    fftwf_free(taps_freq);
   }
   void run(const float* x, float* y) {
     const float scale = 1.0f / static_cast<float>(N);
@@ -156,14 +156,14 @@ struct FftwOls {
       const int avail = std::min(N, m + L - 1);
       std::copy(stream.data() + i, stream.data() + i + avail, blk);
       std::fill(blk + avail, blk + N, 0.0f);
-      fftwf_execute_dft_r2c(fwd, blk, spec);
+      fftwf_execute_dft_r2c(fwd, blk, freq);
       for (int k = 0; k <= N / 2; ++k) {
-        const float re = spec[k][0] * hspec[k][0] - spec[k][1] * hspec[k][1];
-        const float im = spec[k][0] * hspec[k][1] + spec[k][1] * hspec[k][0];
-        spec[k][0] = re * scale;
-        spec[k][1] = im * scale;
+        const float re = freq[k][0] * taps_freq[k][0] - freq[k][1] * taps_freq[k][1];
+        const float im = freq[k][0] * taps_freq[k][1] + freq[k][1] * taps_freq[k][0];
+        freq[k][0] = re * scale;
+        freq[k][1] = im * scale;
       }
-      fftwf_execute_dft_c2r(inv, spec, blk);
+      fftwf_execute_dft_c2r(inv, freq, blk);
       std::copy(blk + L - 1, blk + L - 1 + m, y + i);
     }
     std::memmove(stream.data(), stream.data() + n, sizeof(float) * static_cast<std::size_t>(L - 1));

@@ -41,13 +41,13 @@ int main(void) {
   }
   {
     /* An 8-point FFT of a unit impulse is flat. */
-    KelsFFTSpec_C_32fc* spec = NULL;
+    KelsFFTSpec_C_32fc* record = NULL;
     Kel32fc in[8] = {{1.0f, 0.0f}}, out[8];
-    report("kelsFFTInitAlloc_C_32fc(&spec, 3, ...)",
-           kelsFFTInitAlloc_C_32fc(&spec, 3, KEL_FFT_SCALE_NONE, kelAlgHintAccurate));
-    report("kelsFFTFwd_CToC_32fc(in, out, spec, NULL)", kelsFFTFwd_CToC_32fc(in, out, spec, NULL));
+    report("kelsFFTInitAlloc_C_32fc(&record, 3, ...)",
+           kelsFFTInitAlloc_C_32fc(&record, 3, KEL_FFT_SCALE_NONE, kelAlgHintAccurate));
+    report("kelsFFTFwd_CToC_32fc(in, out, record, NULL)", kelsFFTFwd_CToC_32fc(in, out, record, NULL));
     printf("    out[0] = %g%+gi, out[5] = %g%+gi\n", out[0].re, out[0].im, out[5].re, out[5].im);
-    report("kelsFFTFree_C_32fc(spec)", kelsFFTFree_C_32fc(spec));
+    report("kelsFFTFree_C_32fc(record)", kelsFFTFree_C_32fc(record));
   }
   {
     Kel32f sum = 0.0f;

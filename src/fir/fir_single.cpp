@@ -684,7 +684,7 @@ struct FftPlan {
   FftLayout lay;
 };
 template <class M>
-KelStatus fft_plan(int L, std::uint64_t record_bytes, void** spec, FftPlan* plan) {
+KelStatus fft_plan(int L, std::uint64_t record_bytes, void** fft_record, FftPlan* plan) {
   using A = fft_api<M>;
   int order = 2;
   while ((std::int64_t{1} << order) <= L) ++order;
@@ -702,7 +702,7 @@ KelStatus fft_plan(int L, std::uint64_t record_bytes, void** spec, FftPlan* plan
     A::release(s);
     return kelStsOk;
   }
-  *spec = s;
+  *fft_record = s;
   return kelStsOk;
 }
 
@@ -726,7 +726,7 @@ KelStatus init_family(State** pp, int L, const data_t<M>* history, Kel8u* buffer
   const int size = state_size<M>(L);
   if (size == 0) return kelStsBadFIRLength;
   void* mem;
-  void* spec = nullptr;
+  void* fft_record = nullptr;
   FftPlan plan{};
   if (buffer != nullptr) {
     const std::uintptr_t a = reinterpret_cast<std::uintptr_t>(buffer);
@@ -735,14 +735,14 @@ KelStatus init_family(State** pp, int L, const data_t<M>* history, Kel8u* buffer
     std::uint64_t total = static_cast<std::uint64_t>(size);
     if constexpr (has_fft<M>) {
       if (L >= kFftMinTaps) {
-        KELS_RETURN_IF_ERROR(fft_plan<M>(L, static_cast<std::uint64_t>(size), &spec, &plan));
-        if (spec != nullptr) total = plan.lay.end;
+        KELS_RETURN_IF_ERROR(fft_plan<M>(L, static_cast<std::uint64_t>(size), &fft_record, &plan));
+        if (fft_record != nullptr) total = plan.lay.end;
       }
     }
     mem = aligned_alloc_bytes(static_cast<std::uint32_t>(total));
     if (mem == nullptr) {
       if constexpr (has_fft<M>) {
-        if (spec != nullptr) fft_api<M>::release(spec);
+        if (fft_record != nullptr) fft_api<M>::release(fft_record);
       }
       return kelStsNoMemory;
     }
@@ -752,8 +752,8 @@ KelStatus init_family(State** pp, int L, const data_t<M>* history, Kel8u* buffer
   store(r);
   fill_x4<M>(r);
   if constexpr (has_fft<M>) {
-    if (spec != nullptr) {
-      r->fft_spec = spec;
+    if (fft_record != nullptr) {
+      r->fft_spec = fft_record;
       r->fft_len = plan.N;
       r->fft_threads = plan.threads;
       r->fft_taps = static_cast<std::uint32_t>(plan.lay.taps);

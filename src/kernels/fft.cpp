@@ -327,16 +327,15 @@ struct Tw16 {
                                             {1, 0, s1, -c1, -h, -h, -c1, s1}};
 };
 
-// The 16-point transform of contiguous data with vectors of four complex
-// values: x = 4 s1 + s0 with s0 in the lanes; 4-point transforms across the
-// vectors, twiddles per lane, one 4 x 4 transpose, 4-point transforms
-// across the vectors again, which leaves X[k1 + 4 k0] in vector k0, lane k1.
+// The 16-point transform of data given as four vectors of four complex
+// values u[a] = x[4a .. 4a+3], i.e. x = 4 s1 + s0 with s0 in the lanes;
+// 4-point transforms across the vectors, twiddles per lane, one 4 x 4
+// transpose, 4-point transforms across the vectors again, which leaves
+// X[k1 + 4 k0] in vector k0, lane k1.
 template <bool INV, class D, class T>
-void Dft16Contiguous(D d, const T* src, T* dst) {
+void Dft16Rows(D d, typename CxOps<D, 2, INV>::C* u, T* dst) {
   const CxOps<D, 2, INV> o(d);
   using C = typename CxOps<D, 2, INV>::C;
-  C u[4];
-  for (size_t a = 0; a < 4; ++a) u[a] = o.load(src, nullptr, 4 * a);
   Dft4(o, u[0], u[1], u[2], u[3]);
   for (size_t k1 = 1; k1 < 4; ++k1) u[k1] = o.mul(u[k1], C{hn::Load(d, Tw16<T>::v[k1 - 1])});
   TransposeCx(d, u);
@@ -348,6 +347,26 @@ void Dft16Contiguous(D d, const T* src, T* dst) {
   o.store(dst, nullptr, 4, x1);
   o.store(dst, nullptr, 8, x2);
   o.store(dst, nullptr, 12, x3);
+}
+template <bool INV, class D, class T>
+void Dft16Contiguous(D d, const T* src, T* dst) {
+  const CxOps<D, 2, INV> o(d);
+  typename CxOps<D, 2, INV>::C u[4];
+  for (size_t a = 0; a < 4; ++a) u[a] = o.load(src, nullptr, 4 * a);
+  Dft16Rows<INV>(d, u, dst);
+}
+
+// The 16-point transform of real single-precision data: the 16-point
+// codelet on (x, 0), the zero imaginary parts made by widening each value to
+// 64 bits. Writes the whole spectrum X[0..15] (32 values).
+template <class D>
+void Real16Forward(D d, const float* x, float* out) {
+  const hn::Repartition<uint64_t, D> du;
+  const hn::Rebind<uint32_t, decltype(du)> d32;
+  const auto* xu = reinterpret_cast<const uint32_t*>(x);
+  typename CxOps<D, 2, false>::C u[4];
+  for (size_t a = 0; a < 4; ++a) u[a].v = hn::BitCast(d, hn::PromoteTo(du, hn::LoadU(d32, xu + 4 * a)));
+  Dft16Rows<false>(d, u, out);
 }
 
 // Natural-order B-point DFT (B = 8 or 16) of y[0..B-1], each lane an
@@ -406,29 +425,6 @@ HWY_INLINE void DftLanes(const O& o, C* y) {
       y[k1 + 6] = a3;
     }
   }
-}
-
-// The 16-point transform of real single-precision data: the 16-point
-// codelet on (x, 0), the zero imaginary parts made by widening each value to
-// 64 bits. Writes the whole spectrum X[0..15] (32 values).
-template <class D>
-void Real16Forward(D d, const float* x, float* out) {
-  const CxOps<D, 2, false> o(d);
-  using C = typename CxOps<D, 2, false>::C;
-  const hn::Repartition<uint64_t, D> du;
-  const hn::Rebind<uint32_t, decltype(du)> d32;
-  const auto* xu = reinterpret_cast<const uint32_t*>(x);
-  C u[4];
-  for (size_t a = 0; a < 4; ++a) u[a].v = hn::BitCast(d, hn::PromoteTo(du, hn::LoadU(d32, xu + 4 * a)));
-  Dft4(o, u[0], u[1], u[2], u[3]);
-  for (size_t k1 = 1; k1 < 4; ++k1) u[k1] = o.mul(u[k1], C{hn::Load(d, Tw16<float>::v[k1 - 1])});
-  TransposeCx(d, u);
-  C x0 = u[0], x1 = u[1], x2 = u[2], x3 = u[3];
-  Dft4(o, x0, x1, x2, x3);
-  o.store(out, nullptr, 0, x0);
-  o.store(out, nullptr, 4, x1);
-  o.store(out, nullptr, 8, x2);
-  o.store(out, nullptr, 12, x3);
 }
 
 // Transforms of N = 4B points (B = 8 or 16) in registers, vectors of four

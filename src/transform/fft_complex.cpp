@@ -45,11 +45,11 @@ bool direction_scaled(const Header<T>* h, bool inv) {
 
 // Floating transform; S = 2 interleaved (sim = sre + 1), S = 1 split.
 template <class T, int S>
-KelStatus transform(const void* spec, std::uint32_t id, const Data<T>& d, Kel8u* buf, bool inv) {
-  KELS_REQUIRE_PTRS(spec);
-  KELS_REQUIRE_ID(spec, id);
+KelStatus transform(const void* record, std::uint32_t id, const Data<T>& d, Kel8u* buf, bool inv) {
+  KELS_REQUIRE_PTRS(record);
+  KELS_REQUIRE_ID(record, id);
   KELS_REQUIRE_PTRS(d.sre, d.sim, d.dre, d.dim);
-  const auto* h = static_cast<const Header<T>*>(spec);
+  const auto* h = static_cast<const Header<T>*>(record);
   const bool scaled = direction_scaled(h, inv);
   if (h->order < 4) {
     small_transform<T, S>(h->order, d, inv, scaled, h->scale());
@@ -81,12 +81,12 @@ KelStatus transform(const void* spec, std::uint32_t id, const Data<T>& d, Kel8u*
 // correctly rounded exact value except when the exact value lies within
 // that distance of a rounding boundary (then it can be one unit off).
 template <class I, int S>
-KelStatus int_transform(const void* spec, std::uint32_t id, const Data<I>& d, int sf, Kel8u* buf,
+KelStatus int_transform(const void* record, std::uint32_t id, const Data<I>& d, int sf, Kel8u* buf,
                         bool inv) {
-  KELS_REQUIRE_PTRS(spec);
-  KELS_REQUIRE_ID(spec, id);
+  KELS_REQUIRE_PTRS(record);
+  KELS_REQUIRE_ID(record, id);
   KELS_REQUIRE_PTRS(d.sre, d.sim, d.dre, d.dim);
-  const auto* h = static_cast<const Header<double>*>(spec);
+  const auto* h = static_cast<const Header<double>*>(record);
   const std::size_t n = std::size_t{1} << h->order;
   const bool scaled = direction_scaled(h, inv);
   const WorkArea work(h->order < 4 ? nullptr : buf, h->order < 4 ? 0 : h->work_bytes);
@@ -127,7 +127,7 @@ Data<R> interleaved(const C* src, C* dst) {
 
 using kels::fft::Data;
 
-// Interleaved members: (type code, element type, scalar type, spec family,
+// Interleaved members: (type code, element type, scalar type, record family,
 // identifier).
 #define KELS_FFT_CPLX_MEMBERS(X) \
   X(32fc, Kel32fc, Kel32f, C_32fc, 4u) X(64fc, Kel64fc, Kel64f, C_64fc, 7u)

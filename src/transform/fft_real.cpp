@@ -55,8 +55,8 @@ void to_perm(const T* s, T* d, std::size_t n, Layout lay) {
 }
 
 template <class T>
-const Header<T>* real_header(const void* spec) {
-  return static_cast<const Header<T>*>(spec);
+const Header<T>* real_header(const void* record) {
+  return static_cast<const Header<T>*>(record);
 }
 
 // Orders 0..3: the complex straight-line transform of the real data, the
@@ -235,12 +235,12 @@ void inverse_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
 }
 
 template <class T>
-KelStatus transform(const void* spec, std::uint32_t id, const T* src, T* dst, Kel8u* buf, Layout lay,
+KelStatus transform(const void* record, std::uint32_t id, const T* src, T* dst, Kel8u* buf, Layout lay,
                     bool inv) {
-  KELS_REQUIRE_PTRS(spec);
-  KELS_REQUIRE_ID(spec, id);
+  KELS_REQUIRE_PTRS(record);
+  KELS_REQUIRE_ID(record, id);
   KELS_REQUIRE_PTRS(src, dst);
-  const Header<T>* h = real_header<T>(spec);
+  const Header<T>* h = real_header<T>(record);
   const WorkArea work(buf, h->order < 4 ? 0 : h->work_bytes);
   if (work.failed()) return kelStsNoMemory;
   if (inv) inverse_run(h, src, dst, work.as<T>(), lay);
@@ -253,12 +253,12 @@ KelStatus transform(const void* spec, std::uint32_t id, const T* src, T* dst, Ke
 // double-precision record, and rounded (with 2^-scaleFactor) and saturated
 // into the destination; same error budget as the integer complex transforms.
 template <class I, class O>
-KelStatus int_transform(const void* spec, std::uint32_t id, const I* src, O* dst, int sf, Kel8u* buf,
+KelStatus int_transform(const void* record, std::uint32_t id, const I* src, O* dst, int sf, Kel8u* buf,
                         Layout lay, bool inv) {
-  KELS_REQUIRE_PTRS(spec);
-  KELS_REQUIRE_ID(spec, id);
+  KELS_REQUIRE_PTRS(record);
+  KELS_REQUIRE_ID(record, id);
   KELS_REQUIRE_PTRS(src, dst);
-  const Header<double>* h = real_header<double>(spec);
+  const Header<double>* h = real_header<double>(record);
   const std::size_t n = std::size_t{1} << h->order;
   // CCS holds N + 2 values, except R[0], 0 for N = 1.
   const std::size_t packed = lay == Layout::Ccs ? (n == 1 ? 2 : n + 2) : n;
@@ -282,7 +282,7 @@ KelStatus int_transform(const void* spec, std::uint32_t id, const I* src, O* dst
 
 using kels::fft::Layout;
 
-// (type code, element type, spec family, identifier)
+// (type code, element type, record family, identifier)
 #define KELS_FFT_REAL_MEMBERS(X) X(32f, Kel32f, R_32f, 6u) X(64f, Kel64f, R_64f, 9u)
 #define KELS_FFT_REAL_INT_MEMBERS(X) X(16s, Kel16s, R_16s, 3u) X(32s, Kel32s, R_32s, 0x4C4D5366u)
 

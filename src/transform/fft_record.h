@@ -93,7 +93,7 @@ Shape shape_of(int order, bool dbl);
 // Byte sizes a record reports. work is the record's workBufferSize (without
 // the 16 bytes of alignment slack).
 struct Sizes {
-  std::int64_t spec = 0, init = 0, work = 0;
+  std::int64_t record = 0, init = 0, work = 0;
 };
 Sizes record_sizes(const Family& f, int order);
 

@@ -66,19 +66,19 @@ Inner inner_sizes(int order, bool dbl) {
 Sizes complex_sizes(int order, bool dbl) {
   Sizes s;
   if (order < 4) {
-    s.spec = dbl ? 100 : 96;
+    s.record = dbl ? 100 : 96;
     return s;
   }
   const Inner in = inner_sizes(order, dbl);
   const std::int64_t n = std::int64_t{1} << order;
-  s.spec = (dbl ? 112 : 96) + in.tables + r16(n + 19);
+  s.record = (dbl ? 112 : 96) + in.tables + r16(n + 19);
   s.init = base_table_bytes(order, dbl) + in.extra + 16;
   s.work = in.work;
   return s;
 }
 
 bool fits_int(const Sizes& s) {
-  return s.spec <= INT_MAX && s.init <= INT_MAX && s.work + 16 <= INT_MAX;
+  return s.record <= INT_MAX && s.init <= INT_MAX && s.work + 16 <= INT_MAX;
 }
 
 // ---- Table construction --------------------------------------------------
@@ -276,12 +276,12 @@ KelStatus build(const Family& f, void* mem, int order, int flag, int hint, void*
 
 // ---- Exported operations, one template each over the family -------------
 
-KelStatus get_size(const Family& f, int order, int* spec, int* init, int* work) {
+KelStatus get_size(const Family& f, int order, int* record, int* init, int* work) {
   if (order < 0 || order > 30) return kelStsBadOrder;
-  KELS_REQUIRE_PTRS(spec, init, work);
+  KELS_REQUIRE_PTRS(record, init, work);
   const Sizes s = record_sizes(f, order);
   if (!fits_int(s)) return kelStsNoMemory;
-  *spec = static_cast<int>(s.spec);
+  *record = static_cast<int>(s.record);
   *init = static_cast<int>(s.init);
   *work = s.work > 0 ? static_cast<int>(s.work + 16) : 0;
   return kelStsOk;
@@ -307,7 +307,7 @@ KelStatus init_alloc(const Family& f, Spec** pp, int order, int flag, int hint) 
   // Header and tables are one library allocation (the record refers to its
   // tables by offsets from the header); the base table lives in a temporary
   // allocation released before returning.
-  void* rec = aligned_alloc_bytes(static_cast<std::uint32_t>(s.spec));
+  void* rec = aligned_alloc_bytes(static_cast<std::uint32_t>(s.record));
   if (rec == nullptr) return kelStsNoMemory;
   void* tmp = nullptr;
   if (order >= 4 && flag_ok(flag)) {
@@ -336,22 +336,22 @@ std::size_t work_offset(const Family& f) {
   return f.dbl ? offsetof(Header<double>, work_bytes) : offsetof(Header<float>, work_bytes);
 }
 
-KelStatus free_spec(const Family& f, void* spec) {
-  KELS_REQUIRE_PTRS(spec);
-  KELS_REQUIRE_ID(spec, f.id);
+KelStatus free_spec(const Family& f, void* record) {
+  KELS_REQUIRE_PTRS(record);
+  KELS_REQUIRE_ID(record, f.id);
   const std::uint32_t zero = 0;
-  std::memcpy(spec, &zero, sizeof zero);
+  std::memcpy(record, &zero, sizeof zero);
   std::int32_t owns;
-  std::memcpy(&owns, static_cast<unsigned char*>(spec) + owns_offset(f), sizeof owns);
-  if (owns == 1) aligned_free(spec);
+  std::memcpy(&owns, static_cast<unsigned char*>(record) + owns_offset(f), sizeof owns);
+  if (owns == 1) aligned_free(record);
   return kelStsOk;
 }
 
-KelStatus get_buf_size(const Family& f, const void* spec, int* size) {
-  KELS_REQUIRE_PTRS(spec, size);
-  KELS_REQUIRE_ID(spec, f.id);
+KelStatus get_buf_size(const Family& f, const void* record, int* size) {
+  KELS_REQUIRE_PTRS(record, size);
+  KELS_REQUIRE_ID(record, f.id);
   std::int32_t work;
-  std::memcpy(&work, static_cast<const unsigned char*>(spec) + work_offset(f), sizeof work);
+  std::memcpy(&work, static_cast<const unsigned char*>(record) + work_offset(f), sizeof work);
   *size = work < 1 ? 0 : work + 16;
   return kelStsOk;
 }
@@ -388,13 +388,13 @@ Sizes record_sizes(const Family& f, int order) {
   const std::int64_t n = std::int64_t{1} << order;
   Sizes s;
   if (order < 4) {
-    s.spec = f.dbl ? 100 : 96;
+    s.record = f.dbl ? 100 : 96;
     return s;
   }
   if (f.real) {
     const Sizes c = complex_sizes(order - 1, f.dbl);
     const std::int64_t e = f.dbl ? 16 : 8;
-    s.spec = c.spec + 32 * ((e * (n / 4) + 15) / 16) + 96;
+    s.record = c.record + 32 * ((e * (n / 4) + 15) / 16) + 96;
     s.init = base_table_bytes(order, f.dbl) + (order - 1 >= 4 ? inner_sizes(order - 1, f.dbl).extra : 0) + 16;
     s.work = c.work;
   } else {

@@ -39,7 +39,7 @@ void check_against_reference(int order, int flag, const Mode& m, const std::stri
   for (auto& v : want) v *= sc;
   KelStatus st;
   bool guards;
-  const auto got = run<F>(s.spec, x, m, &st, &guards);
+  const auto got = run<F>(s.record, x, m, &st, &guards);
   ASSERT_EQ(st, kelStsOk) << what;
   EXPECT_TRUE(guards) << what;
   EXPECT_LE(ref::rel_rms(got, want), fft_bound<T>(order))
@@ -92,7 +92,7 @@ TYPED_TEST(FftComplex, LargeOrders) {
     const auto x = random_signal(std::size_t{1} << order, 99u);
     KelStatus st;
     bool guards;
-    const auto y = run<F>(s.spec, x, Mode{}, &st, &guards);
+    const auto y = run<F>(s.record, x, Mode{}, &st, &guards);
     ASSERT_EQ(st, kelStsOk);
     long double ex = 0, ey = 0;
     for (std::size_t i = 0; i < x.size(); ++i) {
@@ -104,7 +104,7 @@ TYPED_TEST(FftComplex, LargeOrders) {
     Mode back;
     back.inverse = true;
     back.null_buffer = true;
-    const auto z = run<F>(s.spec, y, back, &st, &guards);
+    const auto z = run<F>(s.record, y, back, &st, &guards);
     ASSERT_EQ(st, kelStsOk);
     EXPECT_LE(ref::rel_rms(z, x), 2 * fft_bound<T>(order)) << "round trip order " << order;
   }
@@ -118,16 +118,16 @@ TYPED_TEST(FftComplex, UnscaledRoundTripIsNTimesInput) {
     const auto x = random_signal(std::size_t{1} << order, 5u);
     KelStatus st;
     bool guards;
-    const auto y = run<F>(s.spec, x, Mode{}, &st, &guards);
+    const auto y = run<F>(s.record, x, Mode{}, &st, &guards);
     Mode back;
     back.inverse = true;
-    auto z = run<F>(s.spec, y, back, &st, &guards);
+    auto z = run<F>(s.record, y, back, &st, &guards);
     for (auto& v : z) v /= static_cast<long double>(x.size());
     EXPECT_LE(ref::rel_rms(z, x), 2 * fft_bound<typename F::Real>(order));
   }
 }
 
-// Argument checks: spec before data, each failure writes nothing.
+// Argument checks: record before data, each failure writes nothing.
 TYPED_TEST(FftComplex, BadArguments) {
   using F = TypeParam;
   using T = typename F::Real;
@@ -147,17 +147,17 @@ TYPED_TEST(FftComplex, BadArguments) {
   const auto* foreign = reinterpret_cast<const typename F::Spec*>(other);
   EXPECT_EQ(F::fwd(nullptr, nullptr, nullptr, nullptr, foreign, nullptr), kelStsBadContext);
   kelsFFTFree_R_32f(other);
-  EXPECT_EQ(F::fwd(nullptr, si, dr, di, s.spec, nullptr), kelStsNullPtr);
-  EXPECT_EQ(F::fwd(sr, si, nullptr, di, s.spec, nullptr), kelStsNullPtr);
+  EXPECT_EQ(F::fwd(nullptr, si, dr, di, s.record, nullptr), kelStsNullPtr);
+  EXPECT_EQ(F::fwd(sr, si, nullptr, di, s.record, nullptr), kelStsNullPtr);
   if (F::split) {  // the second array of the split layout
-    EXPECT_EQ(F::fwd(sr, si, dr, nullptr, s.spec, nullptr), kelStsNullPtr);
-    EXPECT_EQ(F::inv(sr, nullptr, dr, di, s.spec, nullptr), kelStsNullPtr);
+    EXPECT_EQ(F::fwd(sr, si, dr, nullptr, s.record, nullptr), kelStsNullPtr);
+    EXPECT_EQ(F::inv(sr, nullptr, dr, di, s.record, nullptr), kelStsNullPtr);
   }
   EXPECT_TRUE(dst.untouched());
   // A released record.
   const ReleasedSpec<F> gone(5);
-  EXPECT_EQ(F::fwd(sr, si, dr, di, gone.spec, nullptr), kelStsBadContext);
-  EXPECT_EQ(F::release(gone.spec), kelStsBadContext);
+  EXPECT_EQ(F::fwd(sr, si, dr, di, gone.record, nullptr), kelStsBadContext);
+  EXPECT_EQ(F::release(gone.record), kelStsBadContext);
   EXPECT_TRUE(dst.untouched());
   // Allocation failure of the per-call buffer: nothing written, no leak.
   for (int order : {5, 12, 14}) {
@@ -166,7 +166,7 @@ TYPED_TEST(FftComplex, BadArguments) {
     Guarded<T> a(2 * n), b(2 * n);
     fail_alloc_after(1);
     const KelStatus st = F::fwd(a.data(), a.data() + (F::split ? n : 1), b.data(),
-                                b.data() + (F::split ? n : 1), big.spec, nullptr);
+                                b.data() + (F::split ? n : 1), big.record, nullptr);
     fail_alloc_after(0);
     EXPECT_EQ(st, kelStsNoMemory);
     EXPECT_TRUE(b.untouched());
@@ -218,7 +218,7 @@ void mixed_in_place(int order) {
     re[i] = static_cast<T>(x[i].real());
     im[i] = static_cast<T>(x[i].imag());
   }
-  ASSERT_EQ(F::fwd(re.data(), im.data(), re.data(), im_out.data(), s.spec, nullptr), kelStsOk);
+  ASSERT_EQ(F::fwd(re.data(), im.data(), re.data(), im_out.data(), s.record, nullptr), kelStsOk);
   auto want = ref::fft(x, false);
   for (auto& v : want) v /= std::sqrt(static_cast<long double>(n));
   std::vector<cld> got(n);
@@ -254,7 +254,7 @@ void deep_round_trip(int order) {
   bool guards;
   Mode m;
   m.null_buffer = true;
-  const auto y = run<F>(s.spec, x, m, &st, &guards);
+  const auto y = run<F>(s.record, x, m, &st, &guards);
   ASSERT_EQ(st, kelStsOk);
   // Line 12345 directly, in long double.
   const std::size_t k = 12345 % n;
@@ -266,7 +266,7 @@ void deep_round_trip(int order) {
   EXPECT_LE(std::abs(y[k] - want) / std::sqrt(static_cast<long double>(n)), 10 * fft_bound<T>(order));
   m.inverse = true;
   m.in_place = true;
-  const auto z = run<F>(s.spec, y, m, &st, &guards);
+  const auto z = run<F>(s.record, y, m, &st, &guards);
   ASSERT_EQ(st, kelStsOk);
   EXPECT_LE(ref::rel_rms(z, x), 2 * fft_bound<T>(order)) << F::name << " order " << order;
 }

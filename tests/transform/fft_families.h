@@ -70,11 +70,11 @@ KELS_TEST_FFT_TRAITS(Fam64f, Kel64f, Kel64f, C_64f, true)
 // A record made by InitAlloc, released on scope exit.
 template <class F>
 struct OwnedSpec {
-  typename F::Spec* spec = nullptr;
+  typename F::Spec* record = nullptr;
   KelStatus status;
-  OwnedSpec(int order, int flag) { status = F::init_alloc(&spec, order, flag); }
+  OwnedSpec(int order, int flag) { status = F::init_alloc(&record, order, flag); }
   ~OwnedSpec() {
-    if (spec) F::release(spec);
+    if (record) F::release(record);
   }
 };
 
@@ -84,9 +84,9 @@ struct OwnedSpec {
 template <class F>
 struct ReleasedSpec {
   std::vector<Kel8u> mem = std::vector<Kel8u>(1 << 16), buf = std::vector<Kel8u>(1 << 16);
-  typename F::Spec* spec = nullptr;
+  typename F::Spec* record = nullptr;
   explicit ReleasedSpec(int order) {
-    if (F::init(&spec, order, 8, mem.data(), buf.data()) == kelStsOk) F::release(spec);
+    if (F::init(&record, order, 8, mem.data(), buf.data()) == kelStsOk) F::release(record);
   }
 };
 
@@ -101,7 +101,7 @@ struct Mode {
 // Runs one transform of x; the data arrays sit in guarded buffers whose
 // guards are checked.
 template <class F>
-std::vector<cld> run(const typename F::Spec* spec, const std::vector<cld>& x, const Mode& m,
+std::vector<cld> run(const typename F::Spec* record, const std::vector<cld>& x, const Mode& m,
                      KelStatus* status, bool* guards_ok) {
   using T = typename F::Real;
   const std::size_t n = x.size();
@@ -119,12 +119,12 @@ std::vector<cld> run(const typename F::Spec* spec, const std::vector<cld>& x, co
   Kel8u* pbuf = nullptr;
   if (!m.null_buffer) {
     int size = 0;
-    F::buf_size(spec, &size);
+    F::buf_size(record, &size);
     buf.assign(static_cast<std::size_t>(size) + m.misalign + 1, 0);
     pbuf = buf.data() + m.misalign;
   }
-  *status = m.inverse ? F::inv(re(a), im(a), re(out), im(out), spec, pbuf)
-                      : F::fwd(re(a), im(a), re(out), im(out), spec, pbuf);
+  *status = m.inverse ? F::inv(re(a), im(a), re(out), im(out), record, pbuf)
+                      : F::fwd(re(a), im(a), re(out), im(out), record, pbuf);
   *guards_ok = a.guards_intact() && b.guards_intact();
   std::vector<cld> y(n);
   for (std::size_t i = 0; i < n; ++i) y[i] = cld(re(out)[s * i], im(out)[s * i]);

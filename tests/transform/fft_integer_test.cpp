@@ -77,8 +77,8 @@ long double round_even_sat(long double y) {
 template <class F>
 void check(int order, int flag, int sf, bool inv, bool in_place, bool null_buf, long double amp) {
   using I = typename F::Int;
-  typename F::Spec* spec = nullptr;
-  ASSERT_EQ(F::init_alloc(&spec, order, flag), kelStsOk);
+  typename F::Spec* record = nullptr;
+  ASSERT_EQ(F::init_alloc(&record, order, flag), kelStsOk);
   const std::size_t n = std::size_t{1} << order;
   std::mt19937 gen(static_cast<unsigned>(order * 131 + sf));
   std::uniform_real_distribution<double> u(-1, 1);
@@ -97,10 +97,10 @@ void check(int order, int flag, int sf, bool inv, bool in_place, bool null_buf, 
   std::vector<Kel8u> buf;
   if (!null_buf) {
     int size = 0;
-    ASSERT_EQ(F::buf_size(spec, &size), kelStsOk);
+    ASSERT_EQ(F::buf_size(record, &size), kelStsOk);
     buf.resize(static_cast<std::size_t>(size) + 3);
   }
-  ASSERT_EQ(F::run(inv, are, aim, bre, bim, spec, sf, null_buf ? nullptr : buf.data() + 3), kelStsOk);
+  ASSERT_EQ(F::run(inv, are, aim, bre, bim, record, sf, null_buf ? nullptr : buf.data() + 3), kelStsOk);
   auto y = order <= 11 ? ref::dft(x, inv) : ref::fft(x, inv);
   const long double nn = static_cast<long double>(n);
   long double sc = 1;
@@ -124,7 +124,7 @@ void check(int order, int flag, int sf, bool inv, bool in_place, bool null_buf, 
   }
   EXPECT_LE(off_by_one, 2);
   EXPECT_TRUE(a.guards_intact() && b.guards_intact());
-  F::release(spec);
+  F::release(record);
 }
 
 TYPED_TEST(FftInteger, MatchesRoundedExactTransform) {
@@ -151,12 +151,12 @@ TYPED_TEST(FftInteger, ScaleFactorsAndSaturation) {
 TYPED_TEST(FftInteger, BadArguments) {
   using F = TypeParam;
   using I = typename F::Int;
-  typename F::Spec* spec = nullptr;
-  ASSERT_EQ(F::init_alloc(&spec, 6, 8), kelStsOk);
+  typename F::Spec* record = nullptr;
+  ASSERT_EQ(F::init_alloc(&record, 6, 8), kelStsOk);
   Guarded<I> a(128), b(128);
   I* bi = b.data() + (F::split ? 64 : 1);
   EXPECT_EQ(F::run(false, a.data(), a.data() + 1, b.data(), bi, nullptr, 0, nullptr), kelStsNullPtr);
-  EXPECT_EQ(F::run(false, nullptr, a.data() + 1, b.data(), bi, spec, 0, nullptr), kelStsNullPtr);
+  EXPECT_EQ(F::run(false, nullptr, a.data() + 1, b.data(), bi, record, 0, nullptr), kelStsNullPtr);
   KelsFFTSpec_C_64fc* other = nullptr;
   ASSERT_EQ(kelsFFTInitAlloc_C_64fc(&other, 6, 8, 0), kelStsOk);
   EXPECT_EQ(F::run(false, nullptr, nullptr, nullptr, nullptr,
@@ -164,12 +164,12 @@ TYPED_TEST(FftInteger, BadArguments) {
             kelStsBadContext);
   kelsFFTFree_C_64fc(other);
   fail_alloc_after(1);
-  EXPECT_EQ(F::run(true, a.data(), a.data() + 64, b.data(), bi, spec, 0, nullptr), kelStsNoMemory);
+  EXPECT_EQ(F::run(true, a.data(), a.data() + 64, b.data(), bi, record, 0, nullptr), kelStsNoMemory);
   fail_alloc_after(0);
   EXPECT_TRUE(b.untouched());
-  F::release(spec);
+  F::release(record);
   const ReleasedSpec<F> gone(6);
-  EXPECT_EQ(F::run(false, a.data(), a.data() + 64, b.data(), bi, gone.spec, 0, nullptr), kelStsBadContext);
+  EXPECT_EQ(F::run(false, a.data(), a.data() + 64, b.data(), bi, gone.record, 0, nullptr), kelStsBadContext);
   EXPECT_TRUE(b.untouched());
 }
 

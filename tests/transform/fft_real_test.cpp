@@ -87,8 +87,8 @@ long double rel_rms_real(const std::vector<long double>& a, const std::vector<lo
 template <class F>
 void check(int order, int flag, Lay lay, bool in_place, bool null_buf) {
   using T = typename F::Real;
-  typename F::Spec* spec = nullptr;
-  ASSERT_EQ(F::init_alloc(&spec, order, flag), kelStsOk);
+  typename F::Spec* record = nullptr;
+  ASSERT_EQ(F::init_alloc(&record, order, flag), kelStsOk);
   const std::size_t n = std::size_t{1} << order;
   const std::size_t len = lay == Lay::Ccs ? (n == 1 ? 2 : n + 2) : n;
   std::mt19937 gen(static_cast<unsigned>(order * 7 + flag));
@@ -106,14 +106,14 @@ void check(int order, int flag, Lay lay, bool in_place, bool null_buf) {
   std::vector<Kel8u> buf;
   if (!null_buf) {
     int size = 0;
-    ASSERT_EQ(F::buf_size(spec, &size), kelStsOk);
+    ASSERT_EQ(F::buf_size(record, &size), kelStsOk);
     buf.resize(static_cast<std::size_t>(size) + 7);
   }
   Kel8u* b = null_buf ? nullptr : buf.data() + 7;
   // Forward.
   Guarded<T> a(len), d(len);
   for (std::size_t i = 0; i < n; ++i) a[i] = static_cast<T>(x[i]);
-  const KelStatus st = in_place ? F::fwd_i(lay, a.data(), spec, b) : F::fwd(lay, a.data(), d.data(), spec, b);
+  const KelStatus st = in_place ? F::fwd_i(lay, a.data(), record, b) : F::fwd(lay, a.data(), d.data(), record, b);
   ASSERT_EQ(st, kelStsOk);
   T* out = in_place ? a.data() : d.data();
   auto want = pack(X, n, lay);
@@ -125,7 +125,7 @@ void check(int order, int flag, Lay lay, bool in_place, bool null_buf) {
   // Inverse of the exact spectrum.
   const auto spec_in = pack(X, n, lay);
   for (std::size_t i = 0; i < len; ++i) a[i] = static_cast<T>(spec_in[i]);
-  const KelStatus st2 = in_place ? F::inv_i(lay, a.data(), spec, b) : F::inv(lay, a.data(), d.data(), spec, b);
+  const KelStatus st2 = in_place ? F::inv_i(lay, a.data(), record, b) : F::inv(lay, a.data(), d.data(), record, b);
   ASSERT_EQ(st2, kelStsOk);
   out = in_place ? a.data() : d.data();
   std::vector<long double> back(out, out + n), wantx(n);
@@ -133,7 +133,7 @@ void check(int order, int flag, Lay lay, bool in_place, bool null_buf) {
   EXPECT_LE(rel_rms_real(back, wantx), fft_bound<T>(order))
       << "inverse order " << order << " layout " << int(lay) << " flag " << flag;
   EXPECT_TRUE(a.guards_intact() && d.guards_intact());
-  F::release(spec);
+  F::release(record);
 }
 
 TYPED_TEST(FftReal, LayoutsOrdersFlagsModes) {
@@ -187,26 +187,26 @@ TEST(FftRealSmall, DegenerateLengths) {
 TYPED_TEST(FftReal, BadArguments) {
   using F = TypeParam;
   using T = typename F::Real;
-  typename F::Spec* spec = nullptr;
-  ASSERT_EQ(F::init_alloc(&spec, 6, 8), kelStsOk);
+  typename F::Spec* record = nullptr;
+  ASSERT_EQ(F::init_alloc(&record, 6, 8), kelStsOk);
   Guarded<T> a(66), d(66);
   for (Lay lay : {Lay::Perm, Lay::Pack, Lay::Ccs}) {
     EXPECT_EQ(F::fwd(lay, a.data(), d.data(), nullptr, nullptr), kelStsNullPtr);
-    EXPECT_EQ(F::inv(lay, nullptr, d.data(), spec, nullptr), kelStsNullPtr);
-    EXPECT_EQ(F::fwd(lay, a.data(), nullptr, spec, nullptr), kelStsNullPtr);
+    EXPECT_EQ(F::inv(lay, nullptr, d.data(), record, nullptr), kelStsNullPtr);
+    EXPECT_EQ(F::fwd(lay, a.data(), nullptr, record, nullptr), kelStsNullPtr);
     KelsFFTSpec_C_32fc* other = nullptr;
     ASSERT_EQ(kelsFFTInitAlloc_C_32fc(&other, 6, 8, 0), kelStsOk);
     EXPECT_EQ(F::fwd(lay, nullptr, nullptr, reinterpret_cast<const typename F::Spec*>(other), nullptr),
               kelStsBadContext);
     kelsFFTFree_C_32fc(other);
     fail_alloc_after(1);
-    EXPECT_EQ(F::inv(lay, a.data(), d.data(), spec, nullptr), kelStsNoMemory);
+    EXPECT_EQ(F::inv(lay, a.data(), d.data(), record, nullptr), kelStsNoMemory);
     fail_alloc_after(0);
   }
   EXPECT_TRUE(d.untouched());
-  F::release(spec);
+  F::release(record);
   const ReleasedSpec<F> gone(6);
-  EXPECT_EQ(F::fwd(Lay::Perm, a.data(), d.data(), gone.spec, nullptr), kelStsBadContext);
+  EXPECT_EQ(F::fwd(Lay::Perm, a.data(), d.data(), gone.record, nullptr), kelStsBadContext);
   EXPECT_TRUE(d.untouched());
 }
 
@@ -238,8 +238,8 @@ template <class I, class O, class Spec>
 void int_real_case(KelStatus (*init)(Spec**, int, int, int), KelStatus (*fwd)(const I*, O*, const Spec*, int, Kel8u*),
                    KelStatus (*inv)(const O*, I*, const Spec*, int, Kel8u*), KelStatus (*release)(Spec*),
                    Lay lay, int order, int flag, int sf_f, int sf_i) {
-  Spec* spec = nullptr;
-  ASSERT_EQ(init(&spec, order, flag, 0), kelStsOk);
+  Spec* record = nullptr;
+  ASSERT_EQ(init(&record, order, flag, 0), kelStsOk);
   const std::size_t n = std::size_t{1} << order, len = lay == Lay::Ccs ? (n == 1 ? 2 : n + 2) : n;
   std::mt19937 gen(static_cast<unsigned>(order + flag));
   std::uniform_int_distribution<int> u(-20000, 20000);
@@ -254,7 +254,7 @@ void int_real_case(KelStatus (*init)(Spec**, int, int, int), KelStatus (*fwd)(co
   const long double sf = flag == 1 ? 1 / nn : flag == 4 ? 1 / std::sqrt(nn) : 1;
   const long double si = flag == 2 ? 1 / nn : flag == 4 ? 1 / std::sqrt(nn) : 1;
   std::vector<O> y(len);
-  ASSERT_EQ(fwd(x.data(), y.data(), spec, sf_f, nullptr), kelStsOk);
+  ASSERT_EQ(fwd(x.data(), y.data(), record, sf_f, nullptr), kelStsOk);
   auto want = pack(X, n, lay);
   for (auto& v : want) v = std::ldexp(v * sf, -sf_f);
   expect_rounded(want, y.data(), "forward order " + std::to_string(order));
@@ -273,11 +273,11 @@ void int_real_case(KelStatus (*init)(Spec**, int, int, int), KelStatus (*fwd)(co
   }
   const auto back = order <= 11 ? ref::dft(Y, true) : ref::fft(Y, true);
   std::vector<I> z(n);
-  ASSERT_EQ(inv(y.data(), z.data(), spec, sf_i, nullptr), kelStsOk);
+  ASSERT_EQ(inv(y.data(), z.data(), record, sf_i, nullptr), kelStsOk);
   std::vector<long double> wz(n);
   for (std::size_t i = 0; i < n; ++i) wz[i] = std::ldexp(back[i].real() * si, -sf_i);
   expect_rounded(wz, z.data(), "inverse order " + std::to_string(order));
-  release(spec);
+  release(record);
 }
 
 TEST(FftRealInteger, AllLayoutsAndWidths) {

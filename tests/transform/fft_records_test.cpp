@@ -94,7 +94,7 @@ Model inner(int o, bool dbl) {
 }
 
 struct Expect {
-  std::int64_t spec, init, work;  // work as reported (with the 16 slack)
+  std::int64_t record, init, work;  // work as reported (with the 16 slack)
 };
 
 Expect expected(const SpecOps& f, int o) {
@@ -118,12 +118,12 @@ Expect expected(const SpecOps& f, int o) {
       cspec = (dbl ? 112 : 96) + m.tables + r16((n / 2) + 19);
     }
     const std::int64_t e = dbl ? 16 : 8;
-    x.spec = cspec + 32 * ((e * (n / 4) + 15) / 16) + 96;
+    x.record = cspec + 32 * ((e * (n / 4) + 15) / 16) + 96;
     x.init = base(o) + m.extra + 16;
     work = m.work;
   } else {
     const Model m = inner(o, dbl);
-    x.spec = (dbl ? 112 : 96) + m.tables + r16(n + 19);
+    x.record = (dbl ? 112 : 96) + m.tables + r16(n + 19);
     x.init = base(o) + m.extra + 16;
     work = m.work;
   }
@@ -138,15 +138,15 @@ TEST(FftSpec, SizesFollowTheRules) {
   for (const SpecOps& f : families()) {
     for (int o = 0; o <= 30; ++o) {
       const Expect e = expected(f, o);
-      int spec = -1, init = -1, work = -1;
-      const KelStatus st = f.get_size(o, 8, &spec, &init, &work);
-      if (e.spec > INT_MAX || e.init > INT_MAX || e.work > INT_MAX) {
+      int record = -1, init = -1, work = -1;
+      const KelStatus st = f.get_size(o, 8, &record, &init, &work);
+      if (e.record > INT_MAX || e.init > INT_MAX || e.work > INT_MAX) {
         EXPECT_EQ(st, kelStsNoMemory) << f.name << " order " << o;
-        EXPECT_EQ(spec, -1);
+        EXPECT_EQ(record, -1);
         continue;
       }
       ASSERT_EQ(st, kelStsOk) << f.name << " order " << o;
-      EXPECT_EQ(spec, e.spec) << f.name << " order " << o;
+      EXPECT_EQ(record, e.record) << f.name << " order " << o;
       EXPECT_EQ(init, e.init) << f.name << " order " << o;
       EXPECT_EQ(work, e.work) << f.name << " order " << o;
     }
@@ -181,9 +181,9 @@ TEST(FftSpec, InitStaysInsideCallerMemory) {
   for (const SpecOps& f : families()) {
     for (int o : {0, 3, 4, 5, 9, 10, 11, 12, 13, 16}) {
       for (std::size_t mis : {0u, 1u, 7u, 15u}) {
-        int spec, init, work;
-        ASSERT_EQ(f.get_size(o, 4, &spec, &init, &work), kelStsOk);
-        Guarded<Kel8u> mem(static_cast<std::size_t>(spec), mis), buf(static_cast<std::size_t>(init), mis);
+        int record, init, work;
+        ASSERT_EQ(f.get_size(o, 4, &record, &init, &work), kelStsOk);
+        Guarded<Kel8u> mem(static_cast<std::size_t>(record), mis), buf(static_cast<std::size_t>(init), mis);
         void* rec = nullptr;
         ASSERT_EQ(f.init(&rec, o, 4, mem.data(), o < 4 ? nullptr : buf.data()), kelStsOk) << f.name << o;
         EXPECT_TRUE(mem.guards_intact()) << f.name << " order " << o;
