@@ -537,15 +537,20 @@ HWY_INLINE void StoreTransposed(const O& o, C* u, const size_t* base, size_t g, 
 //           permutation happens in the loads and stores);
 //   else:   the array was permuted already; block m holds its inputs in
 //           bit-reversed position order and is transformed in place.
+// With a stride, only the transforms r0 + j stride + (0 .. width - 1) run
+// (the rows of a stepped level, see fft.h).
 template <size_t B, bool INV, int S, class D, class T>
 void LeadBlocks(D d, const T* sre, const T* sim, T* dre, T* dim, size_t n,
-                const scalar::BitRev& rev, bool fused) {
+                const scalar::BitRev& rev, bool fused, size_t r0, size_t stride, size_t width) {
   const CxOps<D, S, INV> o(d);
   using C = typename CxOps<D, S, INV>::C;
   const size_t V = hn::Lanes(d) / S;
   const size_t cnt = n / B;
+  const size_t step = stride ? stride : V;
+  const size_t wide = stride ? width : V;
   size_t base[4];
-  for (size_t r = 0; r < cnt; r += V) {
+  for (size_t r1 = r0; r1 < cnt; r1 += step)
+   for (size_t r = r1; r < r1 + wide; r += V) {
     C y[B];
     if (fused) {
       for (size_t s = 0; s < B; ++s) y[s] = o.load(sre, sim, r + s * cnt);
@@ -699,54 +704,72 @@ struct VecPasses : scalar::Passes<T, S> {
     else radix4x2_t<false>(re, im, n, L, tw, tw4);
   }
 
-  // ---- First pass: B-point blocks in registers (interleaved layout).
-  // Returns the block length transformed (n when the whole transform is done).
-  template <bool INV>
-  static size_t lead_t(const T* src, T* dst, size_t n, int leaf, const scalar::BitRev& rev,
-                       bool fused, const T* first) {
-    const hn::CappedTag<T, 8> d4;  // up to four complex values per vector
-    const hn::CappedTag<T, 2> d1;  // one complex per vector
-    const bool four = hn::Lanes(d4) == 8;
-    if (fused && four && n <= 64) {
-      if (n == 16) Dft16Contiguous<INV>(d4, src, dst);
-      else if (n == 32) SmallFour<8, INV>(d4, src, dst, first + stage_offset(5, 32));
-      else SmallFour<16, INV>(d4, src, dst, first + stage_offset(6, 64));
-      return n;
-    }
+  // ---- First pass: B-point blocks in registers. Returns the block length
+  // transformed (n when the whole transform is done). With a stride, only
+  // the transforms r0 + j stride + (0 .. lanes - 1) run, lanes as given by
+  // lead_lanes (the rows of a stepped level).
+  using DL4 = hn::CappedTag<T, 8>;                   // up to four complex values
+  using DL1 = hn::CappedTag<T, 2>;                   // one complex value
+  using DLW = hn::CappedTag<T, 32 / sizeof(T)>;      // 256 bits
+  using DLS = hn::CappedTag<T, 4>;                   // split layout
+  enum class LeadTag { kScalar, kOne, kFour, kWide };
+  static LeadTag lead_tag(size_t n, int leaf, size_t stride) {
+    if (S == 1) return n / 16 >= hn::Lanes(DLS()) && hn::Lanes(DLS()) >= 2 ? LeadTag::kFour : LeadTag::kScalar;
     const size_t cnt = n >> (leaf & 1 ? 3 : 4);
     // Double precision beyond L1-sized data measured faster with 256-bit
-    // vectors (two complex values, shorter transposes) than with 512-bit.
-    const hn::CappedTag<T, 32 / sizeof(T)> dw;
-    if (sizeof(T) == 8 && n > kWideLeadMax && cnt >= hn::Lanes(dw) / 2) {
-      if (leaf & 1) LeadBlocks<8, INV, 2>(dw, src, src + 1, dst, dst + 1, n, rev, fused);
-      else LeadBlocks<16, INV, 2>(dw, src, src + 1, dst, dst + 1, n, rev, fused);
-    } else if (cnt >= hn::Lanes(d4) / 2) {
-      if (leaf & 1) LeadBlocks<8, INV, 2>(d4, src, src + 1, dst, dst + 1, n, rev, fused);
-      else LeadBlocks<16, INV, 2>(d4, src, src + 1, dst, dst + 1, n, rev, fused);
-    } else {
-      if (leaf & 1) LeadBlocks<8, INV, 2>(d1, src, src + 1, dst, dst + 1, n, rev, fused);
-      else LeadBlocks<16, INV, 2>(d1, src, src + 1, dst, dst + 1, n, rev, fused);
+    // vectors (two complex values, shorter transposes) than with 512-bit;
+    // row by row (stride) the data stay in L1 and whole lines are read.
+    if (sizeof(T) == 8 && stride == 0 && n > kWideLeadMax && cnt >= hn::Lanes(DLW()) / 2) return LeadTag::kWide;
+    return cnt >= hn::Lanes(DL4()) / 2 ? LeadTag::kFour : LeadTag::kOne;
+  }
+  // Row by row (leaf rows of 2^leaf points), the transforms of one source
+  // line (64 bytes) go together, so that each line is read once, as long as
+  // their rows fit in 32 KiB.
+  static size_t lead_lanes(size_t n, int leaf) {
+    if (lead_tag(n, leaf, 1) != LeadTag::kFour) return 1;
+    const size_t V = S == 1 ? hn::Lanes(DLS()) : hn::Lanes(DL4()) / 2;
+    size_t w = 64 / (S == 1 ? sizeof(T) : 2 * sizeof(T));
+    while (w > V && (w * 2 * sizeof(T)) << leaf > 32768) w /= 2;
+    return HWY_MAX(V, w);
+  }
+  template <bool INV>
+  static size_t lead_t(const T* sre, const T* sim, T* dre, T* dim, size_t n, int leaf,
+                       const scalar::BitRev& rev, bool fused, const T* first, size_t r0,
+                       size_t stride) {
+    if (S == 2 && fused && stride == 0 && hn::Lanes(DL4()) == 8 && n <= 64) {
+      const DL4 d4;
+      if (n == 16) Dft16Contiguous<INV>(d4, sre, dre);
+      else if (n == 32) SmallFour<8, INV>(d4, sre, dre, first + stage_offset(5, 32));
+      else SmallFour<16, INV>(d4, sre, dre, first + stage_offset(6, 64));
+      return n;
     }
-    return leaf & 1 ? 8 : 16;
+    const bool odd = leaf & 1;
+    auto run = [&](auto d) {
+      const size_t width = stride ? lead_lanes(n, leaf) : 0;
+      if (odd) LeadBlocks<8, INV, S>(d, sre, sim, dre, dim, n, rev, fused, r0, stride, width);
+      else LeadBlocks<16, INV, S>(d, sre, sim, dre, dim, n, rev, fused, r0, stride, width);
+    };
+    switch (lead_tag(n, leaf, stride)) {
+      case LeadTag::kScalar:
+        return Base::lead(sre, sim, dre, dim, n, leaf, rev, fused, INV, first, r0, stride);
+      case LeadTag::kWide:
+        if constexpr (S == 2) run(DLW());
+        break;
+      case LeadTag::kFour:
+        if constexpr (S == 2) run(DL4());
+        else run(DLS());
+        break;
+      case LeadTag::kOne:
+        if constexpr (S == 2) run(DL1());
+        break;
+    }
+    return odd ? 8 : 16;
   }
   static size_t lead(const T* sre, const T* sim, T* dre, T* dim, size_t n, int leaf,
-                     const scalar::BitRev& rev, bool fused, bool inv, const T* first) {
-    if constexpr (S == 1) {
-      const hn::CappedTag<T, 4> d;
-      if (n / 16 >= hn::Lanes(d) && hn::Lanes(d) >= 2) {
-        if (leaf & 1) {
-          if (inv) LeadBlocks<8, true, 1>(d, sre, sim, dre, dim, n, rev, fused);
-          else LeadBlocks<8, false, 1>(d, sre, sim, dre, dim, n, rev, fused);
-          return 8;
-        }
-        if (inv) LeadBlocks<16, true, 1>(d, sre, sim, dre, dim, n, rev, fused);
-        else LeadBlocks<16, false, 1>(d, sre, sim, dre, dim, n, rev, fused);
-        return 16;
-      }
-      return Base::lead(sre, sim, dre, dim, n, leaf, rev, fused, inv, first);
-    }
-    return inv ? lead_t<true>(sre, dre, n, leaf, rev, fused, first)
-               : lead_t<false>(sre, dre, n, leaf, rev, fused, first);
+                     const scalar::BitRev& rev, bool fused, bool inv, const T* first,
+                     size_t r0 = 0, size_t stride = 0) {
+    return inv ? lead_t<true>(sre, sim, dre, dim, n, leaf, rev, fused, first, r0, stride)
+               : lead_t<false>(sre, sim, dre, dim, n, leaf, rev, fused, first, r0, stride);
   }
 
   // ---- First pass fused with the permutation (interleaved layout). Lane i

@@ -192,9 +192,9 @@ struct Passes {
   // (4 elements) holds the 4-point transform of src[r + {0, N/2, N/4, 3N/4}],
   // r = rev(4m) / 4; iterated over r so the reads run sequentially.
   static void first4_fused(const T* sre, const T* sim, T* dre, T* dim, std::size_t n,
-                           const BitRev& rev, bool inv, std::size_t r0 = 0) {
+                           const BitRev& rev, bool inv, std::size_t r0 = 0, std::size_t stride = 1) {
     const std::size_t q = n / 4;
-    for (std::size_t r = r0; r < q; ++r) {
+    for (std::size_t r = r0; r < q; r += stride) {
       const std::size_t m4 = rev(r);
       Cx<T> x0 = ld<T, S>(sre, sim, r), x1 = ld<T, S>(sre, sim, r + 2 * q);
       Cx<T> x2 = ld<T, S>(sre, sim, r + q), x3 = ld<T, S>(sre, sim, r + 3 * q);
@@ -207,9 +207,9 @@ struct Passes {
   }
   // Same for the radix-2 first pass of odd orders: block 2m = rev(r).
   static void first2_fused(const T* sre, const T* sim, T* dre, T* dim, std::size_t n,
-                           const BitRev& rev, std::size_t r0 = 0) {
+                           const BitRev& rev, std::size_t r0 = 0, std::size_t stride = 1) {
     const std::size_t h = n / 2;
-    for (std::size_t r = r0; r < h; ++r) {
+    for (std::size_t r = r0; r < h; r += stride) {
       const std::size_t m2 = rev(r);
       const Cx<T> a = ld<T, S>(sre, sim, r), b = ld<T, S>(sre, sim, r + h);
       st<T, S>(dre, dim, m2, add(a, b));
@@ -220,18 +220,22 @@ struct Passes {
   // The first pass over the whole array: the first stages of every leaf, on
   // blocks of 2 (odd leaf orders) or 4 elements, fused with the bit-reversal
   // permutation when the data are read from a separate source, else on the
-  // permuted destination. Returns the block length transformed.
+  // permuted destination. Returns the block length transformed. A fused pass
+  // with a stride runs only the blocks r0 + j stride + (0 .. lead_lanes - 1)
+  // (the rows of a stepped level).
   static std::size_t lead(const T* sre, const T* sim, T* dre, T* dim, std::size_t n, int leaf,
-                          const BitRev& rev, bool fused, bool inv, const T* /*first*/) {
+                          const BitRev& rev, bool fused, bool inv, const T* /*first*/,
+                          std::size_t r0 = 0, std::size_t stride = 0) {
     if (leaf & 1) {
-      if (fused) first2_fused(sre, sim, dre, dim, n, rev);
+      if (fused) first2_fused(sre, sim, dre, dim, n, rev, r0, stride ? stride : 1);
       else radix2(dre, dim, n);
       return 2;
     }
-    if (fused) first4_fused(sre, sim, dre, dim, n, rev, inv);
+    if (fused) first4_fused(sre, sim, dre, dim, n, rev, inv, r0, stride ? stride : 1);
     else radix4_first(dre, dim, n, inv);
     return 4;
   }
+  static std::size_t lead_lanes(std::size_t, int) { return 1; }
 
   // One radix-4 stage of length L (>= 8) over n elements, twiddles from the
   // stage block tw (3L/4 entries), for butterfly indices j0 <= j < q.
@@ -467,6 +471,13 @@ struct Engine {
   const FftPlan<T>& p;
   const FftArgs<T>& a;
   std::size_t lead_ = 0;  // block length the first pass transformed
+  // A single stepped level over leaf rows runs the first pass row by row,
+  // each row's stages following while its data are still in cache.
+  bool rows_ = false;
+  bool fused_ = false;
+  const T* sr_ = nullptr;
+  const T* si_ = nullptr;
+  BitRev rev_{nullptr, 0};
 
   void run() {
     const std::size_t n = std::size_t(1) << p.order;
@@ -501,7 +512,15 @@ struct Engine {
         permute(si, a.dst_im, p.order);
       }
     }
-    lead_ = P::lead(sr, si, a.dst_re, a.dst_im, n, p.leaf, rev, fused, a.inverse, p.first);
+    rows_ = p.levels == 1 && p.two_level == 0;
+    if (rows_) {
+      fused_ = fused;
+      sr_ = sr;
+      si_ = si;
+      rev_ = rev;
+    } else {
+      lead_ = P::lead(sr, si, a.dst_re, a.dst_im, n, p.leaf, rev, fused, a.inverse, p.first);
+    }
     block(a.dst_re, a.dst_im, p.order, 0);
   }
 
@@ -547,11 +566,43 @@ struct Engine {
     }
   }
 
+  // The leaf rows of the only stepped level, first pass included. Fused with
+  // the permutation, first-pass transform r lands in row rev_k(r mod K), so
+  // the transforms r = c + j K (+ lanes) fill the rows rev_k(c ..): every
+  // source line is read once and each group of rows is finished at once.
+  void row_leaves(T* re, T* im, const FftStep<T>& s) {
+    const std::size_t K = std::size_t(1) << s.k;
+    const int m = s.order - s.k;
+    const std::size_t M = std::size_t(1) << m;
+    if (!fused_) {
+      for (std::size_t b = 0; b < K; ++b) {
+        T* r = re + S * b * M;
+        T* i = im + S * b * M;
+        lead_ = P::lead(r, i, r, i, M, m, rev_, false, a.inverse, p.first);
+        leaf(r, i, m);
+      }
+      return;
+    }
+    const std::size_t n = std::size_t(1) << p.order;
+    const std::size_t G = P::lead_lanes(n, p.leaf);
+    for (std::size_t c = 0; c < K; c += G) {
+      lead_ = P::lead(sr_, si_, a.dst_re, a.dst_im, n, p.leaf, rev_, true, a.inverse, p.first, c, K);
+      for (std::size_t g = 0; g < G; ++g) {
+        const std::size_t b = reverse_small(c + g, s.k);
+        leaf(re + S * b * M, im + S * b * M, m);
+      }
+    }
+  }
+
   void stepped(T* re, T* im, int level) {
     const FftStep<T>& s = p.step[level];
     const std::size_t K = std::size_t(1) << s.k;
     const std::size_t M = std::size_t(1) << (s.order - s.k);
-    for (std::size_t b = 0; b < K; ++b) block(re + S * b * M, im + S * b * M, s.order - s.k, level + 1);
+    if (level == 0 && rows_) {
+      row_leaves(re, im, s);
+    } else {
+      for (std::size_t b = 0; b < K; ++b) block(re + S * b * M, im + S * b * M, s.order - s.k, level + 1);
+    }
     if (P::column_pass(re, M, K, s.k, s.merge, s.col, a.work, a.inverse)) return;
     for (std::size_t g = 0; g < M / 4; ++g) {
       P::gather(re, im, M, K, g, s.merge, a.work, a.inverse);
