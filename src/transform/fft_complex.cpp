@@ -26,16 +26,30 @@ struct Data {
   T* dim;
 };
 
+// The straight-line transforms of orders 0..3, one function per order,
+// direction and scaling, chosen from a table.
+template <class T, int S, int ORDER, bool INV, bool SCALED>
+void small_fixed(const Data<T>& d, T scale) {
+  constexpr int n = 1 << ORDER;
+  Cx<T> x[8];
+  for (int i = 0; i < n; ++i) x[i] = {d.sre[S * i], d.sim[S * i]};
+  small_dft_fixed<ORDER, INV>(x);
+  for (int i = 0; i < n; ++i) {
+    d.dre[S * i] = SCALED ? x[i].r * scale : x[i].r;
+    d.dim[S * i] = SCALED ? x[i].i * scale : x[i].i;
+  }
+}
+
+template <class T, int S>
+using SmallFn = void (*)(const Data<T>&, T);
+template <class T, int S, bool INV, bool SCALED>
+constexpr SmallFn<T, S> kSmall[4] = {&small_fixed<T, S, 0, INV, SCALED>, &small_fixed<T, S, 1, INV, SCALED>,
+                                     &small_fixed<T, S, 2, INV, SCALED>, &small_fixed<T, S, 3, INV, SCALED>};
+
 template <class T, int S>
 void small_transform(int order, const Data<T>& d, bool inv, bool scaled, T scale) {
-  Cx<T> x[8];
-  const int n = 1 << order;
-  for (int i = 0; i < n; ++i) x[i] = {d.sre[S * i], d.sim[S * i]};
-  small_dft(order, x, inv);
-  for (int i = 0; i < n; ++i) {
-    d.dre[S * i] = scaled ? x[i].r * scale : x[i].r;
-    d.dim[S * i] = scaled ? x[i].i * scale : x[i].i;
-  }
+  if (inv) (scaled ? kSmall<T, S, true, true> : kSmall<T, S, true, false>)[order](d, scale);
+  else (scaled ? kSmall<T, S, false, true> : kSmall<T, S, false, false>)[order](d, scale);
 }
 
 template <class T>
