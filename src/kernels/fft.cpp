@@ -648,6 +648,15 @@ void ColumnGroup(D d, T* data, size_t M, size_t K, int k, size_t g, const T* mer
   }
 }
 
+// Whole transforms of 16, 32 and 64 points in registers (four complex
+// values per vector); `first` is the first-level table of the order.
+template <bool INV, class D, class T>
+HWY_INLINE void Codelet(D d, const T* src, T* dst, size_t n, const T* first) {
+  if (n == 16) Dft16Contiguous<INV>(d, src, dst);
+  else if (n == 32) SmallFour<8, INV>(d, src, dst, first + stage_offset(5, 32));
+  else SmallFour<16, INV>(d, src, dst, first + stage_offset(6, 64));
+}
+
 template <class T, int S>
 struct VecPasses : scalar::Passes<T, S> {
   using Base = scalar::Passes<T, S>;
@@ -737,10 +746,7 @@ struct VecPasses : scalar::Passes<T, S> {
                        const scalar::BitRev& rev, bool fused, const T* first, size_t r0,
                        size_t stride) {
     if (S == 2 && fused && stride == 0 && hn::Lanes(DL4()) == 8 && n <= 64) {
-      const DL4 d4;
-      if (n == 16) Dft16Contiguous<INV>(d4, sre, dre);
-      else if (n == 32) SmallFour<8, INV>(d4, sre, dre, first + stage_offset(5, 32));
-      else SmallFour<16, INV>(d4, sre, dre, first + stage_offset(6, 64));
+      Codelet<INV>(DL4(), sre, dre, n, first);
       return n;
     }
     const bool odd = leaf & 1;
@@ -1206,6 +1212,12 @@ bool SmallInterleaved(const T* src, T* dst, int order, const T* first, const uin
   if (hn::Lanes(d4) < 4 || order < 4) return false;
   const size_t n = size_t(1) << order;
   using P = VecPasses<T, 2>;
+  if (hn::Lanes(d4) == 8 && order <= 6) {
+    if (inv) Codelet<true>(d4, src, dst, n, first);
+    else Codelet<false>(d4, src, dst, n, first);
+    if (scaled) P::scale(dst, nullptr, n, scale);
+    return true;
+  }
   const size_t lead = P::lead(src, nullptr, dst, nullptr, n, order,
                               scalar::BitRev(rev, order), true, inv, first);
   scalar::leaf_stages<T, P>(dst, dst + 1, order, lead, first, inv);
