@@ -903,10 +903,9 @@ struct VecPasses : scalar::Passes<T, S> {
   // here, which makes any stride a plain load.
   using DC = hn::CappedTag<T, sizeof(T) == 8 && S == 2 ? 2 : 32 / sizeof(T)>;
 
-  template <bool INV>
-  static void combine2_t(T* re, T* im, size_t h, const T* tab, size_t c, size_t stride) {
-    const DC d;
-    const CxOps<DC, S, INV> o(d);
+  template <bool INV, class D>
+  static void combine2_t(D d, T* re, T* im, size_t h, const T* tab, size_t c, size_t stride) {
+    const CxOps<D, S, INV> o(d);
     const size_t step = hn::Lanes(d) / S;
     const T* tabi = scalar::block_im<T, S>(tab, c);
     for (size_t q = 0; q < h; q += step) {
@@ -916,14 +915,19 @@ struct VecPasses : scalar::Passes<T, S> {
       o.store(re, im, q + h, o.sub(e, od));
     }
   }
+  // Consecutive twiddles (stride 1) run at full width.
   static void combine2(T* re, T* im, size_t h, const T* tab, size_t c, size_t stride, bool inv) {
     const DC d;
-    if (stride > 2 || h * S < 2 * hn::Lanes(d)) {
+    const hn::ScalableTag<T> dz;
+    if (stride == 1 && h * S >= 2 * hn::Lanes(dz)) {
+      if (inv) combine2_t<true>(dz, re, im, h, tab, c, stride);
+      else combine2_t<false>(dz, re, im, h, tab, c, stride);
+    } else if (stride > 2 || h * S < 2 * hn::Lanes(d)) {
       Base::combine2(re, im, h, tab, c, stride, inv);
     } else if (inv) {
-      combine2_t<true>(re, im, h, tab, c, stride);
+      combine2_t<true>(d, re, im, h, tab, c, stride);
     } else {
-      combine2_t<false>(re, im, h, tab, c, stride);
+      combine2_t<false>(d, re, im, h, tab, c, stride);
     }
   }
 
