@@ -300,6 +300,27 @@ HWY_INLINE void TransposeCx(D d, C* v) {
     v[2].v.raw = _mm512_shuffle_f64x2(t0, t2, _MM_SHUFFLE(3, 1, 3, 1));
     v[1].v.raw = _mm512_shuffle_f64x2(t1, t3, _MM_SHUFFLE(2, 0, 2, 0));
     v[3].v.raw = _mm512_shuffle_f64x2(t1, t3, _MM_SHUFFLE(3, 1, 3, 1));
+  } else if constexpr (sizeof(T) == 4 && kBytes == 64) {
+    // Eight complex floats (64-bit units) per vector: pairs within 128-bit
+    // blocks, then blocks across pairs of vectors, then across quads.
+    __m512d t[8], s[8];
+    for (int i = 0; i < 8; i += 2) {
+      const __m512d a = _mm512_castps_pd(v[i].v.raw), b = _mm512_castps_pd(v[i + 1].v.raw);
+      t[i] = _mm512_unpacklo_pd(a, b);
+      t[i + 1] = _mm512_unpackhi_pd(a, b);
+    }
+    for (int i = 0; i < 8; i += 4) {
+      s[i] = _mm512_shuffle_f64x2(t[i], t[i + 2], _MM_SHUFFLE(2, 0, 2, 0));
+      s[i + 1] = _mm512_shuffle_f64x2(t[i], t[i + 2], _MM_SHUFFLE(3, 1, 3, 1));
+      s[i + 2] = _mm512_shuffle_f64x2(t[i + 1], t[i + 3], _MM_SHUFFLE(2, 0, 2, 0));
+      s[i + 3] = _mm512_shuffle_f64x2(t[i + 1], t[i + 3], _MM_SHUFFLE(3, 1, 3, 1));
+    }
+    // s[0]: units 0 and 4 of rows 0..3, s[1]: 2 and 6, s[2]: 1 and 5, s[3]: 3 and 7.
+    constexpr int kLo[4] = {0, 2, 1, 3};
+    for (int j = 0; j < 4; ++j) {
+      v[kLo[j]].v.raw = _mm512_castpd_ps(_mm512_shuffle_f64x2(s[j], s[j + 4], _MM_SHUFFLE(2, 0, 2, 0)));
+      v[kLo[j] + 4].v.raw = _mm512_castpd_ps(_mm512_shuffle_f64x2(s[j], s[j + 4], _MM_SHUFFLE(3, 1, 3, 1)));
+    }
   }
 #endif
 }
@@ -493,6 +514,7 @@ template <int S, class O, class T, class C>
 HWY_INLINE void LoadTransposed(const O& o, const T* re, const T* im, const size_t* base, size_t g,
                                C* u) {
   const size_t V = hn::Lanes(o.d) / S;
+  static_assert(S == 2 || hn::MaxLanes(decltype(o.d)()) <= 4, "split layout: at most 4 lanes");
   if constexpr (S == 2) {
     for (size_t i = 0; i < V; ++i) u[i] = o.load(re, im, base[i] + g);
     TransposeCx(o.d, u);
@@ -548,7 +570,7 @@ void LeadBlocks(D d, const T* sre, const T* sim, T* dre, T* dim, size_t n,
   const size_t cnt = n / B;
   const size_t step = stride ? stride : V;
   const size_t wide = stride ? width : V;
-  size_t base[4];
+  size_t base[8];
   for (size_t r1 = r0; r1 < cnt; r1 += step)
    for (size_t r = r1; r < r1 + wide; r += V) {
     C y[B];
@@ -558,14 +580,14 @@ void LeadBlocks(D d, const T* sre, const T* sim, T* dre, T* dim, size_t n,
     } else {
       for (size_t i = 0; i < V; ++i) base[i] = B * (r + i);
       for (size_t g = 0; g < B; g += V) {
-        C u[4];
+        C u[8];
         LoadTransposed<S>(o, dre, dim, base, g, u);
         for (size_t j = 0; j < V; ++j) y[B == 16 ? kRev16[g + j] : kRev8[g + j]] = u[j];
       }
     }
     DftLanes<B>(o, y);
     for (size_t g = 0; g < B; g += V) {
-      C u[4];
+      C u[8];
       for (size_t i = 0; i < V; ++i) u[i] = y[g + i];
       StoreTransposed<S>(o, u, base, g, dre, dim);
     }
@@ -717,11 +739,12 @@ struct VecPasses : scalar::Passes<T, S> {
   // transformed (n when the whole transform is done). With a stride, only
   // the transforms r0 + j stride + (0 .. lanes - 1) run, lanes as given by
   // lead_lanes (the rows of a stepped level).
+  using DL8 = hn::CappedTag<T, 16>;                  // eight complex floats
   using DL4 = hn::CappedTag<T, 8>;                   // up to four complex values
   using DL1 = hn::CappedTag<T, 2>;                   // one complex value
   using DLW = hn::CappedTag<T, 32 / sizeof(T)>;      // 256 bits
   using DLS = hn::CappedTag<T, 4>;                   // split layout
-  enum class LeadTag { kScalar, kOne, kFour, kWide };
+  enum class LeadTag { kScalar, kOne, kFour, kWide, kEight };
   static LeadTag lead_tag(size_t n, int leaf, size_t stride) {
     if (S == 1) return n / 16 >= hn::Lanes(DLS()) && hn::Lanes(DLS()) >= 2 ? LeadTag::kFour : LeadTag::kScalar;
     const size_t cnt = n >> (leaf & 1 ? 3 : 4);
@@ -729,14 +752,17 @@ struct VecPasses : scalar::Passes<T, S> {
     // vectors (two complex values, shorter transposes) than with 512-bit;
     // row by row (stride) the data stay in L1 and whole lines are read.
     if (sizeof(T) == 8 && stride == 0 && n > kWideLeadMax && cnt >= hn::Lanes(DLW()) / 2) return LeadTag::kWide;
+    if (sizeof(T) == 4 && hn::Lanes(DL8()) == 16 && cnt >= 8) return LeadTag::kEight;
     return cnt >= hn::Lanes(DL4()) / 2 ? LeadTag::kFour : LeadTag::kOne;
   }
   // Row by row (leaf rows of 2^leaf points), the transforms of one source
   // line (64 bytes) go together, so that each line is read once, as long as
   // their rows fit in 32 KiB.
   static size_t lead_lanes(size_t n, int leaf) {
-    if (lead_tag(n, leaf, 1) != LeadTag::kFour) return 1;
-    const size_t V = S == 1 ? hn::Lanes(DLS()) : hn::Lanes(DL4()) / 2;
+    const LeadTag tag = lead_tag(n, leaf, 1);
+    if (tag != LeadTag::kFour && tag != LeadTag::kEight) return 1;
+    const size_t V = S == 1 ? hn::Lanes(DLS())
+                            : (tag == LeadTag::kEight ? hn::Lanes(DL8()) : hn::Lanes(DL4())) / 2;
     size_t w = 64 / (S == 1 ? sizeof(T) : 2 * sizeof(T));
     while (w > V && (w * 2 * sizeof(T)) << leaf > 32768) w /= 2;
     return HWY_MAX(V, w);
@@ -760,6 +786,9 @@ struct VecPasses : scalar::Passes<T, S> {
         return Base::lead(sre, sim, dre, dim, n, leaf, rev, fused, INV, first, r0, stride);
       case LeadTag::kWide:
         if constexpr (S == 2) run(DLW());
+        break;
+      case LeadTag::kEight:
+        if constexpr (S == 2 && sizeof(T) == 4) run(DL8());
         break;
       case LeadTag::kFour:
         if constexpr (S == 2) run(DL4());
