@@ -1238,6 +1238,31 @@ void Run(const FftPlan<T>& p, const FftArgs<T>& a) {
   scalar::Engine<T, S, VecPasses<T, S>>{p, a}.run();
 }
 
+// A single leaf of order >= 7, out of place, at one vector width: the
+// fused first pass, then the radix-4 stages (pairs in one pass).
+template <bool INV, class D, class T>
+void LeafDirect(D d, const T* src, T* dst, int order, const T* first, const uint32_t* rev) {
+  const size_t n = size_t(1) << order;
+  const scalar::BitRev br(rev, order);
+  const size_t B = order & 1 ? 8 : 16;
+  if (order & 1) LeadBlocks<8, INV, 2>(d, src, src + 1, dst, dst + 1, n, br, true, 0, 0, 0);
+  else LeadBlocks<16, INV, 2>(d, src, src + 1, dst, dst + 1, n, br, true, 0, 0, 0);
+  size_t L = 4 * B;
+  const T* tw = first + stage_offset(order, L);
+  int stages = 0;
+  for (size_t l = L; l <= n; l *= 4) ++stages;
+  if (stages % 2 == 1) {
+    Radix4Rows<2, INV>(d, dst, dst + 1, n, L, tw);
+    tw += 2 * (3 * L / 4);
+    L *= 4;
+  }
+  for (; L <= n; L *= 16) {
+    const T* tw4 = tw + 2 * (3 * L / 4);
+    Radix4x2Rows<2, INV>(d, dst, dst + 1, n, L, tw, tw4);
+    tw = tw4 + 2 * (3 * L);
+  }
+}
+
 template <class T>
 bool SmallInterleaved(const T* src, T* dst, int order, const T* first, const uint32_t* rev,
                       bool inv, bool scaled, T scale) {
@@ -1248,6 +1273,16 @@ bool SmallInterleaved(const T* src, T* dst, int order, const T* first, const uin
   if (hn::Lanes(d4) == 8 && order <= 6) {
     if (inv) Codelet<true>(d4, src, dst, n, first);
     else Codelet<false>(d4, src, dst, n, first);
+    if (scaled) P::scale(dst, nullptr, n, scale);
+    return true;
+  }
+  if (order >= 7) {
+    // Full-width vectors throughout, the passes called directly without the
+    // engine's width selection (call overhead is a tenth of a 128-point
+    // transform).
+    const hn::ScalableTag<T> dz;
+    if (inv) LeafDirect<true>(dz, src, dst, order, first, rev);
+    else LeafDirect<false>(dz, src, dst, order, first, rev);
     if (scaled) P::scale(dst, nullptr, n, scale);
     return true;
   }
