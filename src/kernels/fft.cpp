@@ -12,6 +12,8 @@
 
 #include "kernels/fft.h"
 
+#include <cmath>
+
 HWY_BEFORE_NAMESPACE();
 namespace kels::kernels {
 namespace HWY_NAMESPACE {
@@ -670,10 +672,49 @@ void ColumnGroup(D d, T* data, size_t M, size_t K, int k, size_t g, const T* mer
   }
 }
 
+// Twiddles w_64^(r k) of the 64-point codelet below: row k - 1 (k = 1..7)
+// holds r = 0..7 as interleaved complex floats, rounded once from long
+// double.
+struct Tw64 {
+  alignas(64) float w[7][16];
+  Tw64() {
+    const long double pi = 3.141592653589793238462643383279502884L;
+    for (int k = 1; k < 8; ++k)
+      for (int r = 0; r < 8; ++r) {
+        const long double a = 2 * pi * static_cast<long double>(r * k) / 64;
+        w[k - 1][2 * r] = static_cast<float>(std::cos(a));
+        w[k - 1][2 * r + 1] = static_cast<float>(-std::sin(a));
+      }
+  }
+};
+const Tw64 kTw64;
+
+// The 64-point single-precision transform with eight complex values per
+// vector: x = 8 s + r with r in the lanes, 8-point transforms across the
+// vectors (s), twiddles w_64^(r k1), one 8 x 8 transpose, 8-point
+// transforms across the vectors again (r), which leaves X[k1 + 8 k0] in
+// vector k0, lane k1.
+template <bool INV, class D>
+void Dft64Eight(D d, const float* src, float* dst) {
+  const CxOps<D, 2, INV> o(d);
+  using C = typename CxOps<D, 2, INV>::C;
+  C y[8];
+  for (size_t s = 0; s < 8; ++s) y[s] = o.load(src, nullptr, 8 * s);
+  DftLanes<8>(o, y);
+  for (size_t k = 1; k < 8; ++k) y[k] = o.mul_w(y[k], o.tw_at(kTw64.w[k - 1], nullptr, 0));
+  TransposeCx(d, y);
+  DftLanes<8>(o, y);
+  for (size_t k = 0; k < 8; ++k) o.store(dst, nullptr, 8 * k, y[k]);
+}
+
 // Whole transforms of 16, 32 and 64 points in registers (four complex
-// values per vector); `first` is the first-level table of the order.
+// values per vector; eight for 64 single-precision points where vectors
+// are that wide); `first` is the first-level table of the order.
 template <bool INV, class D, class T>
 HWY_INLINE void Codelet(D d, const T* src, T* dst, size_t n, const T* first) {
+  if constexpr (sizeof(T) == 4 && hn::MaxLanes(hn::CappedTag<float, 16>()) == 16) {
+    if (n == 64) return Dft64Eight<INV>(hn::CappedTag<float, 16>(), src, dst);
+  }
   if (n == 16) Dft16Contiguous<INV>(d, src, dst);
   else if (n == 32) SmallFour<8, INV>(d, src, dst, first + stage_offset(5, 32));
   else SmallFour<16, INV>(d, src, dst, first + stage_offset(6, 64));
