@@ -672,39 +672,44 @@ void ColumnGroup(D d, T* data, size_t M, size_t K, int k, size_t g, const T* mer
   }
 }
 
-// Twiddles w_64^(r k) of the 64-point codelet below: row k - 1 (k = 1..7)
-// holds r = 0..7 as interleaved complex floats, rounded once from long
-// double.
-struct Tw64 {
-  alignas(64) float w[7][16];
-  Tw64() {
+// Twiddles w_N^(r k) of the codelets below for k = 1..K-1 (row k - 1) and
+// r = 0..7 (interleaved complex floats), rounded once from long double.
+template <size_t N, size_t K>
+struct TwLanes {
+  alignas(64) float w[K - 1][16];
+  TwLanes() {
     const long double pi = 3.141592653589793238462643383279502884L;
-    for (int k = 1; k < 8; ++k)
-      for (int r = 0; r < 8; ++r) {
-        const long double a = 2 * pi * static_cast<long double>(r * k) / 64;
+    for (size_t k = 1; k < K; ++k)
+      for (size_t r = 0; r < 8; ++r) {
+        const long double a = 2 * pi * static_cast<long double>(r * k) / N;
         w[k - 1][2 * r] = static_cast<float>(std::cos(a));
         w[k - 1][2 * r + 1] = static_cast<float>(-std::sin(a));
       }
   }
 };
-const Tw64 kTw64;
+const TwLanes<64, 8> kTw64;
+const TwLanes<128, 16> kTw128;
 
-// The 64-point single-precision transform with eight complex values per
-// vector: x = 8 s + r with r in the lanes, 8-point transforms across the
-// vectors (s), twiddles w_64^(r k1), one 8 x 8 transpose, 8-point
-// transforms across the vectors again (r), which leaves X[k1 + 8 k0] in
-// vector k0, lane k1.
-template <bool INV, class D>
-void Dft64Eight(D d, const float* src, float* dst) {
+// Single-precision transforms of N = 8K points (K = 8 or 16) with eight
+// complex values per vector: x = 8 s + r with r in the lanes, K-point
+// transforms across the K vectors (s), twiddles w_N^(r k1), 8 x 8
+// transposes of each group of eight vectors, 8-point transforms across the
+// vectors of a group (r), which leaves X[k1 + K k0] in vector k0 of the
+// group of k1, lane k1 mod 8.
+template <size_t K, bool INV, class D>
+void DftEight(D d, const float* src, float* dst) {
   const CxOps<D, 2, INV> o(d);
   using C = typename CxOps<D, 2, INV>::C;
-  C y[8];
-  for (size_t s = 0; s < 8; ++s) y[s] = o.load(src, nullptr, 8 * s);
-  DftLanes<8>(o, y);
-  for (size_t k = 1; k < 8; ++k) y[k] = o.mul_w(y[k], o.tw_at(kTw64.w[k - 1], nullptr, 0));
-  TransposeCx(d, y);
-  DftLanes<8>(o, y);
-  for (size_t k = 0; k < 8; ++k) o.store(dst, nullptr, 8 * k, y[k]);
+  const auto& tw = K == 8 ? kTw64.w : kTw128.w;
+  C y[K];
+  for (size_t s = 0; s < K; ++s) y[s] = o.load(src, nullptr, 8 * s);
+  DftLanes<K>(o, y);
+  for (size_t k = 1; k < K; ++k) y[k] = o.mul_w(y[k], o.tw_at(tw[k - 1], nullptr, 0));
+  for (size_t g = 0; g < K; g += 8) {
+    TransposeCx(d, y + g);
+    DftLanes<8>(o, y + g);
+    for (size_t k = 0; k < 8; ++k) o.store(dst, nullptr, K * k + g, y[g + k]);
+  }
 }
 
 // Whole transforms of 16, 32 and 64 points in registers (four complex
@@ -713,7 +718,7 @@ void Dft64Eight(D d, const float* src, float* dst) {
 template <bool INV, class D, class T>
 HWY_INLINE void Codelet(D d, const T* src, T* dst, size_t n, const T* first) {
   if constexpr (sizeof(T) == 4 && hn::MaxLanes(hn::CappedTag<float, 16>()) == 16) {
-    if (n == 64) return Dft64Eight<INV>(hn::CappedTag<float, 16>(), src, dst);
+    if (n == 64) return DftEight<8, INV>(hn::CappedTag<float, 16>(), src, dst);
   }
   if (n == 16) Dft16Contiguous<INV>(d, src, dst);
   else if (n == 32) SmallFour<8, INV>(d, src, dst, first + stage_offset(5, 32));
@@ -1316,6 +1321,14 @@ bool SmallInterleaved(const T* src, T* dst, int order, const T* first, const uin
     else Codelet<false>(d4, src, dst, n, first);
     if (scaled) P::scale(dst, nullptr, n, scale);
     return true;
+  }
+  if constexpr (sizeof(T) == 4 && hn::MaxLanes(hn::CappedTag<float, 16>()) == 16) {
+    if (order == 7) {
+      if (inv) DftEight<16, true>(hn::CappedTag<float, 16>(), src, dst);
+      else DftEight<16, false>(hn::CappedTag<float, 16>(), src, dst);
+      if (scaled) P::scale(dst, nullptr, n, scale);
+      return true;
+    }
   }
   if (order >= 7) {
     // Full-width vectors throughout, the passes called directly without the
