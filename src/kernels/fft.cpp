@@ -1071,9 +1071,9 @@ struct VecPasses : scalar::Passes<T, S> {
     const size_t NL = hn::Lanes(d);
     const auto vs = hn::Set(d, s);
     auto run = [&](T* p, size_t m) {
-      size_t i = 0;
-      for (; i + NL <= m; i += NL) hn::StoreU(hn::Mul(hn::LoadU(d, p + i), vs), d, p + i);
-      for (; i < m; ++i) p[i] *= s;
+      const size_t whole = m - m % NL;
+      for (size_t i = 0; i < whole; i += NL) hn::StoreU(hn::Mul(hn::LoadU(d, p + i), vs), d, p + i);
+      for (size_t i = whole; i < m; ++i) p[i] *= s;
     };
     if (S == 2) {
       run(re, 2 * n);
