@@ -690,27 +690,81 @@ struct TwLanes {
 const TwLanes<64, 8> kTw64;
 const TwLanes<128, 16> kTw128;
 
+// w_256^k, k = 0..127, interleaved complex floats (the 256-point combine).
+struct Tw256 {
+  alignas(64) float w[256];
+  Tw256() {
+    const long double pi = 3.141592653589793238462643383279502884L;
+    for (size_t k = 0; k < 128; ++k) {
+      const long double a = 2 * pi * static_cast<long double>(k) / 256;
+      w[2 * k] = static_cast<float>(std::cos(a));
+      w[2 * k + 1] = static_cast<float>(-std::sin(a));
+    }
+  }
+};
+const Tw256 kTw256;
+
 // Single-precision transforms of N = 8K points (K = 8 or 16) with eight
 // complex values per vector: x = 8 s + r with r in the lanes, K-point
 // transforms across the K vectors (s), twiddles w_N^(r k1), 8 x 8
 // transposes of each group of eight vectors, 8-point transforms across the
 // vectors of a group (r), which leaves X[k1 + K k0] in vector k0 of the
-// group of k1, lane k1 mod 8.
-template <size_t K, bool INV, class D>
-void DftEight(D d, const float* src, float* dst) {
+// group of k1, lane k1 mod 8. load(s) gives x[8s .. 8s + 7]; put(k, v)
+// takes X[k .. k + 7].
+template <size_t K, bool INV, class D, class Load, class Put>
+HWY_INLINE void DftEight(D d, const Load& load, const Put& put) {
   const CxOps<D, 2, INV> o(d);
   using C = typename CxOps<D, 2, INV>::C;
   const auto& tw = K == 8 ? kTw64.w : kTw128.w;
   C y[K];
-  for (size_t s = 0; s < K; ++s) y[s] = o.load(src, nullptr, 8 * s);
+  for (size_t s = 0; s < K; ++s) y[s] = load(s);
   DftLanes<K>(o, y);
   for (size_t k = 1; k < K; ++k) y[k] = o.mul_w(y[k], o.tw_at(tw[k - 1], nullptr, 0));
   for (size_t g = 0; g < K; g += 8) {
     TransposeCx(d, y + g);
     DftLanes<8>(o, y + g);
-    for (size_t k = 0; k < 8; ++k) o.store(dst, nullptr, K * k + g, y[g + k]);
+    for (size_t k = 0; k < 8; ++k) put(K * k + g, y[g + k]);
   }
 }
+
+template <size_t K, bool INV, class D>
+void DftEightContiguous(D d, const float* src, float* dst) {
+  const CxOps<D, 2, INV> o(d);
+  using C = typename CxOps<D, 2, INV>::C;
+  DftEight<K, INV>(
+      d, [&](size_t s) { return o.load(src, nullptr, 8 * s); },
+      [&](size_t k, C v) { o.store(dst, nullptr, k, v); });
+}
+
+#if HWY_TARGET == HWY_AVX3
+// 256 single-precision points by decimation in time: the 128-point
+// transforms A of the even and B of the odd points (each in registers, A
+// parked in the first half of dst), then X[k] = A[k] + w^k B[k] and
+// X[k + 128] = A[k] - w^k B[k].
+template <bool INV, class D>
+void Dft256(D d, const float* src, float* dst) {
+  const CxOps<D, 2, INV> o(d);
+  using C = typename CxOps<D, 2, INV>::C;
+  const __m512i even = _mm512_setr_epi64(0, 2, 4, 6, 8, 10, 12, 14);
+  const __m512i odd = _mm512_setr_epi64(1, 3, 5, 7, 9, 11, 13, 15);
+  auto half = [&](const __m512i& sel) {
+    return [&, sel](size_t s) {
+      const __m512d lo = _mm512_loadu_pd(reinterpret_cast<const double*>(src + 32 * s));
+      const __m512d hi = _mm512_loadu_pd(reinterpret_cast<const double*>(src + 32 * s + 16));
+      C c;
+      c.v.raw = _mm512_castpd_ps(_mm512_permutex2var_pd(lo, sel, hi));
+      return c;
+    };
+  };
+  DftEight<16, INV>(d, half(even), [&](size_t k, C v) { o.store(dst, nullptr, k, v); });
+  DftEight<16, INV>(d, half(odd), [&](size_t k, C b) {
+    const C a = o.load(dst, nullptr, k);
+    const C t = o.mul_w(b, o.tw_at(kTw256.w, nullptr, k));
+    o.store(dst, nullptr, k, o.add(a, t));
+    o.store(dst, nullptr, k + 128, o.sub(a, t));
+  });
+}
+#endif
 
 // Whole transforms of 16, 32 and 64 points in registers (four complex
 // values per vector; eight for 64 single-precision points where vectors
@@ -718,7 +772,7 @@ void DftEight(D d, const float* src, float* dst) {
 template <bool INV, class D, class T>
 HWY_INLINE void Codelet(D d, const T* src, T* dst, size_t n, const T* first) {
   if constexpr (sizeof(T) == 4 && hn::MaxLanes(hn::CappedTag<float, 16>()) == 16) {
-    if (n == 64) return DftEight<8, INV>(hn::CappedTag<float, 16>(), src, dst);
+    if (n == 64) return DftEightContiguous<8, INV>(hn::CappedTag<float, 16>(), src, dst);
   }
   if (n == 16) Dft16Contiguous<INV>(d, src, dst);
   else if (n == 32) SmallFour<8, INV>(d, src, dst, first + stage_offset(5, 32));
@@ -1323,12 +1377,21 @@ bool SmallInterleaved(const T* src, T* dst, int order, const T* first, const uin
     return true;
   }
   if constexpr (sizeof(T) == 4 && hn::MaxLanes(hn::CappedTag<float, 16>()) == 16) {
+    const hn::CappedTag<float, 16> d8;
     if (order == 7) {
-      if (inv) DftEight<16, true>(hn::CappedTag<float, 16>(), src, dst);
-      else DftEight<16, false>(hn::CappedTag<float, 16>(), src, dst);
+      if (inv) DftEightContiguous<16, true>(d8, src, dst);
+      else DftEightContiguous<16, false>(d8, src, dst);
       if (scaled) P::scale(dst, nullptr, n, scale);
       return true;
     }
+#if HWY_TARGET == HWY_AVX3
+    if (order == 8) {
+      if (inv) Dft256<true>(d8, src, dst);
+      else Dft256<false>(d8, src, dst);
+      if (scaled) P::scale(dst, nullptr, n, scale);
+      return true;
+    }
+#endif
   }
   if (order >= 7) {
     // Full-width vectors throughout, the passes called directly without the
