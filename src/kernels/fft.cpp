@@ -456,12 +456,13 @@ HWY_INLINE void DftLanes(const O& o, C* y) {
 // w_N^(r k) from the record's stage table of length N (its three blocks
 // w^k, w^2k, w^3k, k < B), and 4-point transforms across the vectors:
 // X[k + B k0] lands in vector k0 of the transposed group of k.
-template <size_t B, bool INV, class D, class T>
-void SmallFour(D d, const T* src, T* dst, const T* stage) {
+// load(s) gives x[4s .. 4s + 3]; put(k, v) takes X[k .. k + 3].
+template <size_t B, bool INV, class D, class T, class Load, class Put>
+HWY_INLINE void SmallFourT(D d, const Load& load, const Put& put, const T* stage) {
   const CxOps<D, 2, INV> o(d);
   using C = typename CxOps<D, 2, INV>::C;
   C y[B];
-  for (size_t s = 0; s < B; ++s) y[s] = o.load(src, nullptr, 4 * s);
+  for (size_t s = 0; s < B; ++s) y[s] = load(s);
   DftLanes<B>(o, y);
   for (size_t a = 0; a < B; a += 4) {
     C u[4] = {y[a], y[a + 1], y[a + 2], y[a + 3]};
@@ -470,8 +471,16 @@ void SmallFour(D d, const T* src, T* dst, const T* stage) {
     u[2] = o.mul_w(u[2], o.tw_at(stage, nullptr, B + a));
     u[3] = o.mul_w(u[3], o.tw_at(stage, nullptr, 2 * B + a));
     Dft4(o, u[0], u[1], u[2], u[3]);
-    for (size_t k0 = 0; k0 < 4; ++k0) o.store(dst, nullptr, B * k0 + a, u[k0]);
+    for (size_t k0 = 0; k0 < 4; ++k0) put(B * k0 + a, u[k0]);
   }
+}
+template <size_t B, bool INV, class D, class T>
+void SmallFour(D d, const T* src, T* dst, const T* stage) {
+  const CxOps<D, 2, INV> o(d);
+  using C = typename CxOps<D, 2, INV>::C;
+  SmallFourT<B, INV>(
+      d, [&](size_t s) { return o.load(src, nullptr, 4 * s); },
+      [&](size_t k, C v) { o.store(dst, nullptr, k, v); }, stage);
 }
 
 
@@ -736,7 +745,53 @@ void DftEightContiguous(D d, const float* src, float* dst) {
       [&](size_t k, C v) { o.store(dst, nullptr, k, v); });
 }
 
+// Factors of the double-precision 128-point transform: the 64-point stage
+// block (w^j, w^2j, w^3j, j < 16, w = w_64) and w_128^k, k < 64.
+struct Tw128Double {
+  alignas(64) double stage[96];
+  alignas(64) double w[128];
+  Tw128Double() {
+    const long double pi = 3.141592653589793238462643383279502884L;
+    auto put = [&](double* p, size_t i, size_t e, size_t n) {
+      const long double a = 2 * pi * static_cast<long double>(e) / static_cast<long double>(n);
+      p[2 * i] = static_cast<double>(std::cos(a));
+      p[2 * i + 1] = static_cast<double>(-std::sin(a));
+    };
+    for (size_t j = 0; j < 16; ++j)
+      for (size_t m = 1; m <= 3; ++m) put(stage, 16 * (m - 1) + j, m * j, 64);
+    for (size_t k = 0; k < 64; ++k) put(w, k, k, 128);
+  }
+};
+const Tw128Double kTw128Double;
+
 #if HWY_TARGET == HWY_AVX3
+// 128 double-precision points by decimation in time: the 64-point
+// transforms A of the even and B of the odd points (four complex values per
+// vector, A parked in the first half of dst), then X[k] = A[k] + w^k B[k]
+// and X[k + 64] = A[k] - w^k B[k].
+template <bool INV, class D>
+void Dft128Double(D d, const double* src, double* dst) {
+  const CxOps<D, 2, INV> o(d);
+  using C = typename CxOps<D, 2, INV>::C;
+  auto half = [&](bool odd) {
+    return [&, odd](size_t s) {
+      const __m512d lo = _mm512_loadu_pd(src + 16 * s), hi = _mm512_loadu_pd(src + 16 * s + 8);
+      C c;
+      c.v.raw = odd ? _mm512_shuffle_f64x2(lo, hi, _MM_SHUFFLE(3, 1, 3, 1))
+                    : _mm512_shuffle_f64x2(lo, hi, _MM_SHUFFLE(2, 0, 2, 0));
+      return c;
+    };
+  };
+  const double* stage = kTw128Double.stage;
+  SmallFourT<16, INV>(d, half(false), [&](size_t k, C v) { o.store(dst, nullptr, k, v); }, stage);
+  SmallFourT<16, INV>(d, half(true), [&](size_t k, C b) {
+    const C a = o.load(dst, nullptr, k);
+    const C t = o.mul_w(b, o.tw_at(kTw128Double.w, nullptr, k));
+    o.store(dst, nullptr, k, o.add(a, t));
+    o.store(dst, nullptr, k + 64, o.sub(a, t));
+  }, stage);
+}
+
 // 256 single-precision points by decimation in time: the 128-point
 // transforms A of the even and B of the odd points (each in registers, A
 // parked in the first half of dst), then X[k] = A[k] + w^k B[k] and
@@ -1393,6 +1448,17 @@ bool SmallInterleaved(const T* src, T* dst, int order, const T* first, const uin
     }
 #endif
   }
+#if HWY_TARGET == HWY_AVX3
+  if constexpr (sizeof(T) == 8) {
+    if (order == 7) {
+      const hn::CappedTag<double, 8> dd;
+      if (inv) Dft128Double<true>(dd, src, dst);
+      else Dft128Double<false>(dd, src, dst);
+      if (scaled) P::scale(dst, nullptr, n, scale);
+      return true;
+    }
+  }
+#endif
   if (order >= 7) {
     // Full-width vectors throughout, the passes called directly without the
     // engine's width selection (call overhead is a tenth of a 128-point
