@@ -613,21 +613,34 @@ void LeadBlocks(D d, const T* sre, const T* sim, T* dre, T* dim, size_t n,
 // to the rows. The gather with its merge twiddles is fused with the first
 // stages (in-register 8- or 16-point blocks), and the last radix-4 stage
 // writes straight to the rows; the stages between run on the work buffer.
+//
+// The group holds columns W g + c0 .. + W - 1 (W = 2, 4 or 8 columns per
+// vector); c0 = W / 2 shifts 512-bit groups by half a vector, so that data
+// 32 bytes off a 64-byte boundary are still read in whole lines.
 template <size_t B, bool INV, class D, class T>
 void ColumnGroup(D d, T* data, size_t M, size_t K, int k, size_t g, const T* merge,
-                 const T* col, T* work) {
+                 const T* col, T* work, size_t c0) {
   const CxOps<D, 2, INV> o(d);
   using C = typename CxOps<D, 2, INV>::C;
-  // W = 4 or 8 columns per vector; the merge table has blocks of four.
   const size_t W = hn::Lanes(d) / 2;
-  T* const base = data + 2 * W * g;
-  const T* const mg = merge + 8 * (W / 4) * g * K;
+  T* const base = data + 2 * (W * g + c0);
+  // The merge table has blocks of four columns; eight single-precision
+  // columns take two blocks (the shifted group the second and third).
+  const T* mg = W >= 4 ? merge + 8 * (W / 4) * g * K : merge + 8 * (g / 2) * K + 4 * (g % 2);
+  if (c0 != 0 && W == 8) mg += 8 * K;
   auto row = [&](size_t b) { return base + 2 * M * b; };
   auto grp = [&](size_t b) { return work + 2 * W * b; };
   auto merge_tw = [&](size_t b) {
-    if constexpr (hn::MaxLanes(D()) * sizeof(T) == 64 && sizeof(T) == 4) {
+    constexpr bool kWide = hn::MaxLanes(D()) * sizeof(T) == 64;
+    if constexpr (kWide && sizeof(T) == 4) {
       const hn::Half<D> dh;
       return o.mul_tw_vec(hn::Combine(d, hn::LoadU(dh, mg + 8 * (K + b)), hn::LoadU(dh, mg + 8 * b)));
+    } else if constexpr (kWide) {
+      if (c0 != 0) {  // the last two columns of block g, the first two of block g + 1
+        const hn::Half<D> dh;
+        return o.mul_tw_vec(hn::Combine(d, hn::LoadU(dh, mg + 8 * (K + b)), hn::LoadU(dh, mg + 8 * b + 4)));
+      }
+      return o.tw_at(mg + 8 * b, nullptr, 0);
     } else {
       return o.tw_at(mg + 8 * b, nullptr, 0);
     }
@@ -1237,6 +1250,24 @@ struct VecPasses : scalar::Passes<T, S> {
 
   // ---- Whole column pass of a stepped level (interleaved layout, four
   // complex values per vector); false leaves it to the generic passes.
+  template <bool INV, class D>
+  static void column_groups(D d, T* data, size_t M, size_t K, int k, const T* merge, const T* col,
+                            T* work, size_t g0, size_t g1, size_t c0) {
+    for (size_t g = g0; g < g1; ++g) {
+      if (k & 1) ColumnGroup<8, INV>(d, data, M, K, k, g, merge, col, work, c0);
+      else ColumnGroup<16, INV>(d, data, M, K, k, g, merge, col, work, c0);
+    }
+  }
+  // Data 32 bytes off a 64-byte boundary: the 512-bit groups shifted by half
+  // a vector read whole lines; the half-vector edges go alone.
+  template <bool INV, class D, class DH>
+  static void column_groups_shifted(D d, DH dh, T* data, size_t M, size_t K, int k,
+                                    const T* merge, const T* col, T* work) {
+    const size_t W = hn::Lanes(d) / 2, WH = W / 2;
+    column_groups<INV>(dh, data, M, K, k, merge, col, work, 0, 1, 0);
+    column_groups<INV>(d, data, M, K, k, merge, col, work, 0, M / W - 1, WH);
+    column_groups<INV>(dh, data, M, K, k, merge, col, work, M / WH - 1, M / WH, 0);
+  }
   template <bool INV>
   static void column_pass_t(T* data, size_t M, size_t K, int k, const T* merge, const T* col,
                             T* work) {
@@ -1244,21 +1275,27 @@ struct VecPasses : scalar::Passes<T, S> {
     // when the target has 512-bit vectors and eight columns of K elements
     // fit a small scratch area: with four, the two halves of every row line
     // are fetched twice, since rows a power of two apart evict each other.
+    // For the same reason, 512-bit groups of data 32 bytes off a line
+    // boundary are shifted by half a vector.
     constexpr size_t kScratch = 2048;  // complex values
+    const bool half_off = (reinterpret_cast<uintptr_t>(data) & 63) == 32;
     const hn::CappedTag<T, 16> d8;
-    if (sizeof(T) == 4 && hn::Lanes(d8) == 16 && 8 * K <= kScratch) {
-      HWY_ALIGN T scratch[2 * kScratch];
-      for (size_t g = 0; g < M / 8; ++g) {
-        if (k & 1) ColumnGroup<8, INV>(d8, data, M, K, k, g, merge, col, scratch);
-        else ColumnGroup<16, INV>(d8, data, M, K, k, g, merge, col, scratch);
-      }
-      return;
-    }
     const hn::CappedTag<T, 8> d;
-    for (size_t g = 0; g < M / 4; ++g) {
-      if (k & 1) ColumnGroup<8, INV>(d, data, M, K, k, g, merge, col, work);
-      else ColumnGroup<16, INV>(d, data, M, K, k, g, merge, col, work);
+    if constexpr (sizeof(T) == 4 && hn::MaxLanes(decltype(d8)()) == 16) {
+      if (8 * K <= kScratch) {
+        HWY_ALIGN T scratch[2 * kScratch];
+        if (half_off) column_groups_shifted<INV>(d8, d, data, M, K, k, merge, col, scratch);
+        else column_groups<INV>(d8, data, M, K, k, merge, col, scratch, 0, M / 8, 0);
+        return;
+      }
     }
+    if constexpr (sizeof(T) == 8 && hn::MaxLanes(decltype(d)()) == 8) {
+      if (half_off) {
+        column_groups_shifted<INV>(d, hn::CappedTag<T, 4>(), data, M, K, k, merge, col, work);
+        return;
+      }
+    }
+    column_groups<INV>(d, data, M, K, k, merge, col, work, 0, M / 4, 0);
   }
   static bool column_pass(T* re, size_t M, size_t K, int k, const T* merge, const T* col, T* work,
                           bool inv) {

@@ -61,9 +61,10 @@ TYPED_TEST(FftComplex, MatchesReferenceOnEveryTarget) {
   });
 }
 
-// Scale flags, in place, null buffer and misaligned caller buffers, across
-// the thresholds of the schemes (straight-line 0..3, leaf, first large order
-// of each precision, two-level, stepped).
+// Scale flags, in place, null buffer, misaligned caller buffers and data
+// off 64-byte boundaries, across the thresholds of the schemes
+// (straight-line 0..3, leaf, first large order of each precision,
+// two-level, stepped).
 TYPED_TEST(FftComplex, FlagsAndModes) {
   for (int order : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13}) {
     for (int flag : {1, 2, 4, 8}) {
@@ -73,6 +74,7 @@ TYPED_TEST(FftComplex, FlagsAndModes) {
         m.in_place = mode >= 2;
         m.null_buffer = mode == 3;
         m.misalign = static_cast<std::size_t>(mode * 5);
+        m.data_offset = static_cast<std::size_t>(16 * ((mode + flag) % 4));
         check_against_reference<TypeParam>(order, flag, m, "mode " + std::to_string(mode));
       }
     }

@@ -95,7 +95,8 @@ struct Mode {
   bool inverse = false;
   bool in_place = false;
   bool null_buffer = false;
-  std::size_t misalign = 0;  // bytes added to the caller's buffer
+  std::size_t misalign = 0;     // bytes added to the caller's buffer
+  std::size_t data_offset = 0;  // bytes past a 64-byte boundary of both data arrays
 };
 
 // Runs one transform of x; the data arrays sit in guarded buffers whose
@@ -105,7 +106,7 @@ std::vector<cld> run(const typename F::Spec* record, const std::vector<cld>& x, 
                      KelStatus* status, bool* guards_ok) {
   using T = typename F::Real;
   const std::size_t n = x.size();
-  Guarded<T> a(2 * n), b(2 * n);
+  Guarded<T> a(2 * n, m.data_offset), b(2 * n, m.data_offset);
   // Split layout: re in [0, n), im in [n, 2n).
   auto re = [&](Guarded<T>& g) { return g.data(); };
   auto im = [&](Guarded<T>& g) { return F::split ? g.data() + n : g.data() + 1; };
