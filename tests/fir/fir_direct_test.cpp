@@ -16,45 +16,29 @@
 namespace kels::test::fir {
 namespace {
 
-#define KELS_TEST_DIRECT_FLOAT(P, D)                                                                \
-  static KelStatus one(Data x, Data* y, const Tap* t, int L, int, Data* d, int* i, int) {          \
-    return kelsFIROne##P##_Direct_##D(x, y, t, L, d, i);                                            \
-  }                                                                                                 \
-  static KelStatus one_i(Data* y, const Tap* t, int L, int, Data* d, int* i, int) {                 \
-    return kelsFIROne##P##_Direct_##D##_I(y, t, L, d, i);                                           \
-  }                                                                                                 \
-  static KelStatus block(const Data* x, Data* y, int n, const Tap* t, int L, int, Data* d, int* i, int) { \
-    return kelsFIR##P##_Direct_##D(x, y, n, t, L, d, i);                                            \
-  }                                                                                                 \
-  static KelStatus block_i(Data* y, int n, const Tap* t, int L, int, Data* d, int* i, int) {        \
-    return kelsFIR##P##_Direct_##D##_I(y, n, t, L, d, i);                                           \
-  }
-#define KELS_TEST_DIRECT_SFS(P, D)                                                                  \
-  static KelStatus one(Data x, Data* y, const Tap* t, int L, int, Data* d, int* i, int sf) {       \
-    return kelsFIROne##P##_Direct_##D##_Sfs(x, y, t, L, d, i, sf);                                  \
-  }                                                                                                 \
-  static KelStatus one_i(Data* y, const Tap* t, int L, int, Data* d, int* i, int sf) {              \
-    return kelsFIROne##P##_Direct_##D##_ISfs(y, t, L, d, i, sf);                                    \
-  }                                                                                                 \
-  static KelStatus block(const Data* x, Data* y, int n, const Tap* t, int L, int, Data* d, int* i, int sf) { \
-    return kelsFIR##P##_Direct_##D##_Sfs(x, y, n, t, L, d, i, sf);                                  \
-  }                                                                                                 \
-  static KelStatus block_i(Data* y, int n, const Tap* t, int L, int, Data* d, int* i, int sf) {     \
-    return kelsFIR##P##_Direct_##D##_ISfs(y, n, t, L, d, i, sf);                                    \
-  }
-#define KELS_TEST_DIRECT_FACTOR(P, D)                                                               \
-  static KelStatus one(Data x, Data* y, const Tap* t, int L, int f, Data* d, int* i, int sf) {     \
-    return kelsFIROne##P##_Direct_##D##_Sfs(x, y, t, L, f, d, i, sf);                               \
-  }                                                                                                 \
-  static KelStatus one_i(Data* y, const Tap* t, int L, int f, Data* d, int* i, int sf) {            \
-    return kelsFIROne##P##_Direct_##D##_ISfs(y, t, L, f, d, i, sf);                                 \
-  }                                                                                                 \
+// The four forms of one member; F is the taps factor argument of the
+// integer-taps members (or nothing), S the name suffix and scale factor.
+#define KELS_TEST_DIRECT_FORMS(P, D, S, IS, F, ...)                                                        \
+  static KelStatus one(Data x, Data* y, const Tap* t, int L, int f, Data* d, int* i, int sf) {            \
+    (void)f, (void)sf;                                                                                     \
+    return kelsFIROne##P##_Direct_##D##S(x, y, t, L F, d, i __VA_ARGS__);                                  \
+  }                                                                                                        \
+  static KelStatus one_i(Data* y, const Tap* t, int L, int f, Data* d, int* i, int sf) {                   \
+    (void)f, (void)sf;                                                                                     \
+    return kelsFIROne##P##_Direct_##D##IS(y, t, L F, d, i __VA_ARGS__);                                    \
+  }                                                                                                        \
   static KelStatus block(const Data* x, Data* y, int n, const Tap* t, int L, int f, Data* d, int* i, int sf) { \
-    return kelsFIR##P##_Direct_##D##_Sfs(x, y, n, t, L, f, d, i, sf);                               \
-  }                                                                                                 \
-  static KelStatus block_i(Data* y, int n, const Tap* t, int L, int f, Data* d, int* i, int sf) {   \
-    return kelsFIR##P##_Direct_##D##_ISfs(y, n, t, L, f, d, i, sf);                                 \
+    (void)f, (void)sf;                                                                                     \
+    return kelsFIR##P##_Direct_##D##S(x, y, n, t, L F, d, i __VA_ARGS__);                                  \
+  }                                                                                                        \
+  static KelStatus block_i(Data* y, int n, const Tap* t, int L, int f, Data* d, int* i, int sf) {          \
+    (void)f, (void)sf;                                                                                     \
+    return kelsFIR##P##_Direct_##D##IS(y, n, t, L F, d, i __VA_ARGS__);                                    \
   }
+#define KELS_TEST_DIRECT_FLOAT(P, D) KELS_TEST_DIRECT_FORMS(P, D, , _I, , )
+#define KELS_TEST_DIRECT_SFS(P, D) KELS_TEST_DIRECT_FORMS(P, D, _Sfs, _ISfs, , , sf)
+#define KELS_TEST_DIRECT_FACTOR(P, D) KELS_TEST_DIRECT_FORMS(P, D, _Sfs, _ISfs, KELS_COMMA f, , sf)
+#define KELS_COMMA ,
 
 // (name, taps prefix, data code, taps type, data type, form, exact rule of
 // its own: Q15 or integer taps with wrapping sums)
@@ -89,15 +73,6 @@ using DirectMembers = ::testing::Types<KELS_TEST_DIRECT_MEMBERS(KELS_TEST_DIRECT
 template <class A>
 class FirDirect : public ::testing::Test {};
 TYPED_TEST_SUITE(FirDirect, DirectMembers);
-
-template <class Data>
-bool same_vec(const std::vector<Data>& a, const std::vector<Data>& b) {
-  if (a.size() != b.size()) return false;
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    if (!same_bits(a[i], b[i])) return false;
-  }
-  return true;
-}
 
 constexpr int kSf = 2;
 
@@ -146,16 +121,7 @@ TYPED_TEST(FirDirect, MatchesTheReference) {
       std::vector<Data> d(2 * L, make<Data>(0, 0)), y(n);
       int idx = 0;
       ASSERT_EQ(A::block(x.data(), y.data(), n, taps.data(), L, 0, d.data(), &idx, kSf), kelStsOk);
-      const std::vector<Data> none;
-      const auto ref = reference(taps, none, x);
-      const auto mag = magnitude(taps, none, x);
-      for (int i = 0; i < n; ++i) {
-        if constexpr (is_int_v<Data>) {
-          ASSERT_TRUE(same_bits(y[i], expect_value<Data>(ref[i], kSf, 8))) << "L=" << L << " i=" << i;
-        } else {
-          ASSERT_TRUE(close(y[i], ref[i], mag[i], L)) << "L=" << L << " i=" << i;
-        }
-      }
+      expect_reference(taps, std::vector<Data>{}, x, y.data(), kSf);
       // The history in the span d[idx..idx+L-1] holds the last L inputs.
       for (int k = 0; k < L; ++k) ASSERT_TRUE(same_bits(d[idx + k], x[n - L + k]));
     }
@@ -371,26 +337,6 @@ TEST(FirDirect32f, LongBlocksEqualOneSampleSteps) {
     EXPECT_TRUE(same_vec(d1, d2));
     EXPECT_EQ(i1, i2);
   }
-}
-
-// The caller-held and state forms filter alike.
-TEST(FirDirect32f, AgreesWithTheStateForm) {
-  std::mt19937 g(43);
-  const int L = 24, n = 500;
-  const auto taps = random_data<Kel32f>(L, g);
-  const auto x = random_data<Kel32f>(n, g);
-  std::vector<Kel32f> d(2 * L, 0), y1(n), y2(n);
-  int idx = 0;
-  ASSERT_EQ(kelsFIR_Direct_32f(x.data(), y1.data(), n, taps.data(), L, d.data(), &idx), kelStsOk);
-  KelsFIRState_32f* s = nullptr;
-  ASSERT_EQ(kelsFIRInitAlloc_32f(&s, taps.data(), L, nullptr), kelStsOk);
-  ASSERT_EQ(kelsFIR_32f(x.data(), y2.data(), n, s), kelStsOk);
-  std::vector<Kel32f> h(L);
-  ASSERT_EQ(kelsFIRGetDlyLine_32f(s, h.data()), kelStsOk);
-  ASSERT_EQ(kelsFIRFree_32f(s), kelStsOk);
-  const auto mag = magnitude(taps, std::vector<Kel32f>{}, x);
-  for (int i = 0; i < n; ++i) ASSERT_NEAR(y1[i], y2[i], 8 * L * 1.2e-7 * mag[i]);
-  for (int k = 0; k < L; ++k) EXPECT_EQ(h[k], d[idx + L - 1 - k]);  // newest first vs oldest first
 }
 
 }  // namespace

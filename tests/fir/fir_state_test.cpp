@@ -139,34 +139,8 @@ template <class A>
 void expect_outputs(const std::vector<typename A::Tap>& taps, const std::vector<typename A::Data>& history,
                     const std::vector<typename A::Data>& in, const std::vector<typename A::Data>& out,
                     const char* what) {
-  using Data = typename A::Data;
-  const auto ref = reference(taps, history, in);
-  const auto mag = magnitude(taps, history, in);
-  for (std::size_t n = 0; n < in.size(); ++n) {
-    if constexpr (is_int_v<Data>) {
-      const Data e = expect_value<Data>(ref[n], kSf, A::frac_bits);
-      ASSERT_TRUE(same_bits(out[n], e)) << what << " L=" << taps.size() << " n=" << n;
-    } else {
-      ASSERT_TRUE(close(out[n], ref[n], mag[n], taps.size())) << what << " L=" << taps.size() << " n=" << n;
-    }
-  }
-}
-
-// History read back: the last L samples of (old history, inputs), newest first.
-template <class Data>
-std::vector<Data> expected_history(const std::vector<Data>& history, const std::vector<Data>& in, std::size_t L) {
-  std::vector<Data> e(L);
-  for (std::size_t i = 0; i < L; ++i) {
-    e[i] = i < in.size() ? in[in.size() - 1 - i] : history[i - in.size()];
-  }
-  return e;
-}
-
-template <class Data>
-bool same_vec(const std::vector<Data>& a, const std::vector<Data>& b) {
-  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](const Data& x, const Data& y) {
-           return same_bits(x, y);
-         });
+  SCOPED_TRACE(what);
+  expect_reference(taps, history, in, out.data(), kSf, A::frac_bits);
 }
 
 // Blocks that cross directLimit (L rounded up to 4, plus 1) on both sides,
@@ -365,12 +339,6 @@ TYPED_TEST(FirState, AllocationFailureLeavesNothingBehind) {
 
 std::int64_t r16(std::int64_t n) { return (n + 15) / 16 * 16; }
 
-struct ThreadCount {
-  int saved = kel_get_num_threads();
-  explicit ThreadCount(int n) { kel_set_num_threads(n); }
-  ~ThreadCount() { kel_set_num_threads(saved); }
-};
-
 TEST(FirStateSize, FollowsTheDocumentedFormulas) {
   for (int T : {1, 2, 3, 8}) {
     ThreadCount tc(T);
@@ -410,49 +378,28 @@ TEST(FirStateSize, RaisedThreadCountDoesNotOverrunTheBuffer) {
 
 // Above 160000 samples the outputs are computed by a team of threads; every
 // thread count gives the serial result bit for bit.
-template <class Data, class Tap, class St, class Init, class Run>
-void check_parallel(Init init, Run run) {
+template <class A>
+void check_parallel() {
+  using Data = typename A::Data;
   std::mt19937 g(21);
   const int L = 37, n = 200003;
-  const auto taps = random_taps<Tap>(L, g);
+  const auto taps = random_taps<typename A::Tap>(L, g);
   const auto hist = random_data<Data>(L, g);
   const auto x = random_data<Data>(n, g);
-  std::vector<std::vector<Data>> outs, hists;
+  std::vector<std::vector<Data>> outs;
   for (int T : {1, 2, 3}) {
     ThreadCount tc(T);
-    St* st = nullptr;
-    ASSERT_EQ(init(&st, taps.data(), L, hist.data()), kelStsOk);
-    std::vector<Data> y(n), h(L);
-    ASSERT_EQ(run(x.data(), y.data(), n, st, &h), kelStsOk);
-    outs.push_back(y);
-    hists.push_back(h);
+    Filter<A> f(taps, hist, true);
+    outs.emplace_back(x.size());
+    ASSERT_EQ(A::block(x.data(), outs.back().data(), n, f.state, 2), kelStsOk);
+    EXPECT_TRUE(same_vec(f.dly(), expected_history(hist, x, L))) << "threads " << T;
   }
-  for (int i = 1; i < 3; ++i) {
-    EXPECT_TRUE(same_vec(outs[0], outs[i])) << "threads " << i + 1;
-    EXPECT_TRUE(same_vec(hists[0], hists[i]));
-  }
-  EXPECT_TRUE(same_vec(hists[0], expected_history(hist, x, L)));
+  EXPECT_TRUE(same_vec(outs[0], outs[1]) && same_vec(outs[0], outs[2]));
 }
 
 TEST(FirParallel, ThreadCountDoesNotChangeTheResult) {
-  check_parallel<Kel32f, Kel32f, KelsFIRState_32f>(
-      [](KelsFIRState_32f** pp, const Kel32f* t, int L, const Kel32f* h) { return kelsFIRInitAlloc_32f(pp, t, L, h); },
-      [](const Kel32f* x, Kel32f* y, int n, KelsFIRState_32f* s, std::vector<Kel32f>* h) {
-        const KelStatus st = kelsFIR_32f(x, y, n, s);
-        kelsFIRGetDlyLine_32f(s, h->data());
-        kelsFIRFree_32f(s);
-        return st;
-      });
-  check_parallel<Kel16s, Kel32f, KelsFIRState32f_16s>(
-      [](KelsFIRState32f_16s** pp, const Kel32f* t, int L, const Kel16s* h) {
-        return kelsFIRInitAlloc32f_16s(pp, t, L, h);
-      },
-      [](const Kel16s* x, Kel16s* y, int n, KelsFIRState32f_16s* s, std::vector<Kel16s>* h) {
-        const KelStatus st = kelsFIR32f_16s_Sfs(x, y, n, s, 2);
-        kelsFIRGetDlyLine32f_16s(s, h->data());
-        kelsFIRFree32f_16s(s);
-        return st;
-      });
+  check_parallel<F32f>();
+  check_parallel<F32f16s>();
 }
 
 // Blocks either side of the FFT-method threshold on an InitAlloc record
@@ -468,9 +415,7 @@ TEST(FirMethod, BlocksAroundTheFftThresholdAgree) {
     std::vector<Kel32f> y(n);
     ASSERT_EQ(kelsFIR_32f(x.data(), y.data(), n, s), kelStsOk);
     EXPECT_EQ(kelsFIRFree_32f(s), kelStsOk);
-    const auto ref = reference(taps, std::vector<Kel32f>{}, x);
-    const auto mag = magnitude(taps, std::vector<Kel32f>{}, x);
-    for (int i = 0; i < n; ++i) ASSERT_TRUE(close(y[i], ref[i], mag[i], L, 8)) << n << " " << i;
+    expect_reference(taps, std::vector<Kel32f>{}, x, y.data(), 0, 0, 8);
   }
 }
 
