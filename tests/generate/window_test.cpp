@@ -228,31 +228,6 @@ TEST(Window, LongHannStaysAtFloatRounding) {
   EXPECT_LT(worst, 1e-15L);
 }
 
-TEST(Window, LengthThreeSpecialCases) {
-  const Kel32f x[3] = {0.75f, -0.5f, 0.25f};
-  Kel32f y[3];
-  ASSERT_EQ(kelsWinHamming_32f(x, y, 3), kelStsOk);
-  EXPECT_NEAR(y[0], 0.08f * 0.75f, 1e-7);
-  EXPECT_EQ(y[1], -0.5f);
-  EXPECT_NEAR(y[2], 0.08f * 0.25f, 1e-7);
-  for (auto fn : {kelsWinHann_32f, kelsWinBartlett_32f, kelsWinBlackmanStd_32f}) {
-    ASSERT_EQ(fn(x, y, 3), kelStsOk);
-    EXPECT_EQ(y[0], 0.0f);
-    EXPECT_EQ(y[1], -0.5f);
-    EXPECT_EQ(y[2], 0.0f);
-  }
-  Kel16s s[3] = {-32768, 32767, -32768};
-  ASSERT_EQ(kelsWinBlackman_16s_I(s, 3, 5.0f), kelStsOk);  // large alpha: ends still 0
-  EXPECT_EQ(s[0], 0);
-  EXPECT_EQ(s[1], 32767);
-  EXPECT_EQ(s[2], 0);
-  // 64f follows the formula: the ends are zero up to rounding.
-  Kel64f d[3] = {1, 1, 1};
-  ASSERT_EQ(kelsWinBlackman_64f_I(d, 3, 0.3f), kelStsOk);
-  EXPECT_LT(std::fabs(d[0]), 1e-16);
-  EXPECT_EQ(d[1], 1.0);
-}
-
 TEST(Window, PresetsAreBlackmanBitForBit) {
   for (int len : {4, 5, 100, 1001}) {
     const auto src = signal<Kel32fc>(len);
