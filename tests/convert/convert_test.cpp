@@ -432,19 +432,6 @@ TEST(Convert, Int16AndHalf) {
 
 // ---- Rounding control.
 
-TEST(Convert, InterfaceExamples) {
-  const float x[] = {2.5f, -2.5f, 40000.0f, -1e9f};
-  Kel16s y[4];
-  ASSERT_EQ(kelStsOk, kelsConvert_32f16s_Sfs(x, y, 4, 1, 0));
-  EXPECT_EQ((std::vector<Kel16s>{2, -2, 32767, -32768}), std::vector<Kel16s>(y, y + 4));
-  ASSERT_EQ(kelStsOk, kelsConvert_32f16s_Sfs(x, y, 4, 0, 0));
-  EXPECT_EQ((std::vector<Kel16s>{2, -2, 32767, -32768}), std::vector<Kel16s>(y, y + 4));
-  const Kel32s a[] = {3, 5};
-  ASSERT_EQ(kelStsOk, kelsConvert_32s16s_Sfs(a, y, 2, 1));
-  EXPECT_EQ(2, y[0]);
-  EXPECT_EQ(2, y[1]);
-}
-
 class SseModeScope {
  public:
   explicit SseModeScope(unsigned rc) : saved_(_mm_getcsr()) { _mm_setcsr((saved_ & ~0x603Fu) | rc); }
