@@ -222,30 +222,31 @@ TEST(StatsIntegerReductions, IntegerNormsFollowTheirRules) {
 
 // ---- Dot products of integer data.
 
-template <class A, class B>
-void exact_dot(const A* a, const B* b, int n, long double* re, long double* im) {
-  // Products and partial sums stay below 2^63 for the data used here, and
-  // long double holds 64-bit integers exactly.
-  std::int64_t r = 0, m = 0;
+template <class T>
+std::int64_t part(const T& x, bool imag) {
+  if constexpr (std::is_class_v<T>) return imag ? x.im : x.re;
+  else return imag ? 0 : x;
+}
+
+// Runs a dot product member and checks each part of its result with
+// expect(got, exact part, what). The exact sums stay below 2^63 for the
+// data used here.
+template <class A, class B, class R, class E, class... S>
+void expect_dot(const char* what, KelStatus (*fn)(const A*, const B*, int, R*, S...), const A* a, const B* b, int n,
+                E expect, [[maybe_unused]] int sf = 0) {
+  std::int64_t re = 0, im = 0;
   for (int i = 0; i < n; ++i) {
-    std::int64_t ar, ai = 0, br, bi = 0;
-    if constexpr (std::is_class_v<A>) {
-      ar = a[i].re;
-      ai = a[i].im;
-    } else {
-      ar = a[i];
-    }
-    if constexpr (std::is_class_v<B>) {
-      br = b[i].re;
-      bi = b[i].im;
-    } else {
-      br = b[i];
-    }
-    r += ar * br - ai * bi;
-    m += ar * bi + ai * br;
+    re += part(a[i], false) * part(b[i], false) - part(a[i], true) * part(b[i], true);
+    im += part(a[i], false) * part(b[i], true) + part(a[i], true) * part(b[i], false);
   }
-  *re = static_cast<long double>(r);
-  *im = static_cast<long double>(m);
+  R r{};
+  ASSERT_EQ(fn(a, b, n, &r, S(sf)...), kelStsOk) << what;
+  if constexpr (std::is_class_v<R>) {
+    expect(r.re, re, what);
+    expect(r.im, im, what);
+  } else {
+    expect(r, re, what);
+  }
 }
 
 TEST(StatsIntegerReductions, DotProductsAreExactThenScaledWithClamps) {
@@ -259,77 +260,36 @@ TEST(StatsIntegerReductions, DotProductsAreExactThenScaledWithClamps) {
     const auto* c2 = reinterpret_cast<const Kel16sc*>(s2.data());
     const auto* wc1 = reinterpret_cast<const Kel32sc*>(w1.data());
     const auto* wc2 = reinterpret_cast<const Kel32sc*>(w2.data());
-    long double rr, ri, cr, ci, mr, mi, w_rr, w_ri, w_cr, w_ci, w_mr, w_mi, x_rr, x_ri;
-    exact_dot(s1.data(), s2.data(), n, &rr, &ri);
-    exact_dot(c1, c2, n, &cr, &ci);
-    exact_dot(s1.data(), c2, n, &mr, &mi);
-    exact_dot(w1.data(), w2.data(), n, &w_rr, &w_ri);
-    exact_dot(wc1, wc2, n, &w_cr, &w_ci);
-    exact_dot(w1.data(), wc2, n, &w_mr, &w_mi);
-    exact_dot(s1.data(), w2.data(), n, &x_rr, &x_ri);
-    auto i64 = [](long double v) { return static_cast<std::int64_t>(v); };
-
-    Kel64s d64 = 0;
-    Kel64sc d64c{};
-    ASSERT_EQ(kelsDotProd_16s64s(s1.data(), s2.data(), n, &d64), kelStsOk);
-    EXPECT_EQ(d64, i64(rr));
-    ASSERT_EQ(kelsDotProd_16sc64sc(c1, c2, n, &d64c), kelStsOk);
-    EXPECT_EQ(d64c.re, i64(cr));
-    EXPECT_EQ(d64c.im, i64(ci));
-    ASSERT_EQ(kelsDotProd_16s16sc64sc(s1.data(), c2, n, &d64c), kelStsOk);
-    EXPECT_EQ(d64c.re, i64(mr));
-    EXPECT_EQ(d64c.im, i64(mi));
-    Kel32f f = 0;
-    Kel32fc fc{};
-    ASSERT_EQ(kelsDotProd_16s32f(s1.data(), s2.data(), n, &f), kelStsOk);
-    EXPECT_EQ(f, static_cast<float>(rr));
-    ASSERT_EQ(kelsDotProd_16sc32fc(c1, c2, n, &fc), kelStsOk);
-    EXPECT_EQ(fc.re, static_cast<float>(cr));
-    EXPECT_EQ(fc.im, static_cast<float>(ci));
-    ASSERT_EQ(kelsDotProd_16s16sc32fc(s1.data(), c2, n, &fc), kelStsOk);
-    EXPECT_EQ(fc.re, static_cast<float>(mr));
-    EXPECT_EQ(fc.im, static_cast<float>(mi));
-
+    // Unscaled results: exact 64-bit sums, or the exact sum rounded once.
+    auto exact = [n](auto got, std::int64_t v, const char* what) { EXPECT_EQ(got, v) << what << " n=" << n; };
+    auto rounded = [n](auto got, std::int64_t v, const char* what) {
+      EXPECT_EQ(got, static_cast<decltype(got)>(static_cast<long double>(v))) << what << " n=" << n;
+    };
+    expect_dot("16s64s", kelsDotProd_16s64s, s1.data(), s2.data(), n, exact);
+    expect_dot("16sc64sc", kelsDotProd_16sc64sc, c1, c2, n, exact);
+    expect_dot("16s16sc64sc", kelsDotProd_16s16sc64sc, s1.data(), c2, n, exact);
+    expect_dot("16s32f", kelsDotProd_16s32f, s1.data(), s2.data(), n, rounded);
+    expect_dot("16sc32fc", kelsDotProd_16sc32fc, c1, c2, n, rounded);
+    expect_dot("16s16sc32fc", kelsDotProd_16s16sc32fc, s1.data(), c2, n, rounded);
     for (const int sf : kScaleFactors) {
-      // The rule with the scale factor clamped to -31..31 first.
+      // The rule with the scale factor clamped to -31..31 first; the 32-bit
+      // results are checked where the model's sums are below 2^50.
       const int c = sf > 31 ? 31 : (sf < -31 ? -31 : sf);
-      auto model16 = [&](long double v) { return scale_model<Kel16s>(i64(v), c); };
-      auto model32 = [&](long double v) { return scale_model<Kel32s>(i64(v), c); };
-      Kel16s d16 = 0;
-      Kel16sc d16c{};
-      Kel32s d32 = 0;
-      Kel32sc d32c{};
-      ASSERT_EQ(kelsDotProd_16s_Sfs(s1.data(), s2.data(), n, &d16, sf), kelStsOk);
-      EXPECT_EQ(d16, model16(rr)) << n << " " << sf;
-      ASSERT_EQ(kelsDotProd_16sc_Sfs(c1, c2, n, &d16c, sf), kelStsOk);
-      EXPECT_EQ(d16c.re, model16(cr));
-      EXPECT_EQ(d16c.im, model16(ci));
-      ASSERT_EQ(kelsDotProd_16s16sc_Sfs(s1.data(), c2, n, &d16c, sf), kelStsOk);
-      EXPECT_EQ(d16c.re, model16(mr));
-      EXPECT_EQ(d16c.im, model16(mi));
-      auto check32 = [&](Kel32s got, long double v, const char* what) {
-        if (std::abs(i64(v)) < (std::int64_t{1} << 50)) {
-          EXPECT_EQ(got, model32(v)) << what << " n=" << n << " sf=" << sf;
+      auto scaled = [n, sf, c](auto got, std::int64_t v, const char* what) {
+        if (sizeof(got) == 2 || std::abs(v) < (std::int64_t{1} << 50)) {
+          EXPECT_EQ(got, scale_model<decltype(got)>(v, c)) << what << " n=" << n << " sf=" << sf;
         }
       };
-      ASSERT_EQ(kelsDotProd_16s32s_Sfs(s1.data(), s2.data(), n, &d32, sf), kelStsOk);
-      check32(d32, rr, "16s32s");
-      ASSERT_EQ(kelsDotProd_16sc32sc_Sfs(c1, c2, n, &d32c, sf), kelStsOk);
-      check32(d32c.re, cr, "16sc32sc re");
-      check32(d32c.im, ci, "16sc32sc im");
-      ASSERT_EQ(kelsDotProd_16s16sc32sc_Sfs(s1.data(), c2, n, &d32c, sf), kelStsOk);
-      check32(d32c.re, mr, "16s16sc32sc re");
-      check32(d32c.im, mi, "16s16sc32sc im");
-      ASSERT_EQ(kelsDotProd_16s32s32s_Sfs(s1.data(), w2.data(), n, &d32, sf), kelStsOk);
-      check32(d32, x_rr, "16s32s32s");
-      ASSERT_EQ(kelsDotProd_32s_Sfs(w1.data(), w2.data(), n, &d32, sf), kelStsOk);
-      check32(d32, w_rr, "32s");
-      ASSERT_EQ(kelsDotProd_32sc_Sfs(wc1, wc2, n, &d32c, sf), kelStsOk);
-      check32(d32c.re, w_cr, "32sc re");
-      check32(d32c.im, w_ci, "32sc im");
-      ASSERT_EQ(kelsDotProd_32s32sc_Sfs(w1.data(), wc2, n, &d32c, sf), kelStsOk);
-      check32(d32c.re, w_mr, "32s32sc re");
-      check32(d32c.im, w_mi, "32s32sc im");
+      expect_dot("16s", kelsDotProd_16s_Sfs, s1.data(), s2.data(), n, scaled, sf);
+      expect_dot("16sc", kelsDotProd_16sc_Sfs, c1, c2, n, scaled, sf);
+      expect_dot("16s16sc", kelsDotProd_16s16sc_Sfs, s1.data(), c2, n, scaled, sf);
+      expect_dot("16s32s", kelsDotProd_16s32s_Sfs, s1.data(), s2.data(), n, scaled, sf);
+      expect_dot("16sc32sc", kelsDotProd_16sc32sc_Sfs, c1, c2, n, scaled, sf);
+      expect_dot("16s16sc32sc", kelsDotProd_16s16sc32sc_Sfs, s1.data(), c2, n, scaled, sf);
+      expect_dot("16s32s32s", kelsDotProd_16s32s32s_Sfs, s1.data(), w2.data(), n, scaled, sf);
+      expect_dot("32s", kelsDotProd_32s_Sfs, w1.data(), w2.data(), n, scaled, sf);
+      expect_dot("32sc", kelsDotProd_32sc_Sfs, wc1, wc2, n, scaled, sf);
+      expect_dot("32s32sc", kelsDotProd_32s32sc_Sfs, w1.data(), wc2, n, scaled, sf);
     }
   }
 }
