@@ -99,19 +99,15 @@ struct Api {
 #define KELS_API_ALPHA(name, code, T)                                                     \
   Api<T>{[](const T* s, T* d, int n, float a) { return kelsWin##name##_##code(s, d, n, a); }, \
          [](T* sd, int n, float a) { return kelsWin##name##_##code##_I(sd, n, a); }}
-#define KELS_API_TABLE(code, T)                                                           \
-  template <>                                                                             \
-  Api<T> api<T>(Win w) {                                                                  \
-    switch (w) {                                                                          \
-      case Win::Bartlett: return KELS_API_PLAIN(Bartlett, code, T);                       \
-      case Win::Hann: return KELS_API_PLAIN(Hann, code, T);                               \
-      case Win::Hamming: return KELS_API_PLAIN(Hamming, code, T);                         \
-      case Win::Blackman: return KELS_API_ALPHA(Blackman, code, T);                       \
-      case Win::BlackmanStd: return KELS_API_PLAIN(BlackmanStd, code, T);                 \
-      case Win::BlackmanOpt: return KELS_API_PLAIN(BlackmanOpt, code, T);                 \
-      case Win::Kaiser: return KELS_API_ALPHA(Kaiser, code, T);                           \
-    }                                                                                     \
-    return {};                                                                            \
+// The members of one type, in the order of Win.
+#define KELS_API_TABLE(code, T)                                                                                  \
+  template <>                                                                                                    \
+  Api<T> api<T>(Win w) {                                                                                         \
+    const Api<T> all[] = {KELS_API_PLAIN(Bartlett, code, T),    KELS_API_PLAIN(Hann, code, T),                  \
+                          KELS_API_PLAIN(Hamming, code, T),     KELS_API_ALPHA(Blackman, code, T),              \
+                          KELS_API_PLAIN(BlackmanStd, code, T), KELS_API_PLAIN(BlackmanOpt, code, T),           \
+                          KELS_API_ALPHA(Kaiser, code, T)};                                                      \
+    return all[static_cast<int>(w)];                                                                             \
   }
 template <class T> Api<T> api(Win w);
 KELS_API_TABLE(16s, Kel16s)
