@@ -192,22 +192,20 @@ TEST(FirDirectQ15, FollowsTheQ15Rule) {
       }
     }
   }
-  // Worked values: 0.5 * 3 = 1.5 -> 2, 0.5 * 5 = 2.5 -> 2; a wrapped sum.
-  const Kel16s half = 16384;
-  Kel16s d1[2] = {0, 0}, y = 0;
-  int i1 = 0;
-  ASSERT_EQ(kelsFIROne_Direct_16s_Sfs(3, &y, &half, 1, d1, &i1, 0), kelStsOk);
-  EXPECT_EQ(y, 2);
-  ASSERT_EQ(kelsFIROne_Direct_16s_Sfs(5, &y, &half, 1, d1, &i1, 0), kelStsOk);
-  EXPECT_EQ(y, 2);
-  ASSERT_EQ(kelsFIROne_Direct_16s_Sfs(-3, &y, &half, 1, d1, &i1, 0), kelStsOk);
-  EXPECT_EQ(y, -2);
-  const Kel16s big[3] = {32767, 32767, 32767};
-  Kel16s d3[6] = {32767, 32767, 0, 32767, 32767, 0};
-  int i3 = 2;
-  // 3 * 32767^2 = 3221028867 wraps to -1073938429; >> 15 saturates.
-  ASSERT_EQ(kelsFIROne_Direct_16s_Sfs(32767, &y, big, 3, d3, &i3, 0), kelStsOk);
-  EXPECT_EQ(y, -32768);
+  // Worked values: 0.5 * 3 = 1.5 -> 2, 0.5 * 5 = 2.5 -> 2, -1.5 -> -2; and
+  // 3 * 32767^2 = 3221028867, which wraps to -1073938429: >> 15 saturates.
+  auto one = [](std::vector<Kel16s> taps, Kel16s hist, Kel16s x) {
+    const int L = static_cast<int>(taps.size());
+    std::vector<Kel16s> d(2 * L, hist);
+    Kel16s y = 0;
+    int i = 0;
+    EXPECT_EQ(kelsFIROne_Direct_16s_Sfs(x, &y, taps.data(), L, d.data(), &i, 0), kelStsOk);
+    return y;
+  };
+  EXPECT_EQ(one({16384}, 0, 3), 2);
+  EXPECT_EQ(one({16384}, 0, 5), 2);
+  EXPECT_EQ(one({16384}, 0, -3), -2);
+  EXPECT_EQ(one({32767, 32767, 32767}, 32767, 32767), -32768);
 }
 
 // 32-bit taps: wrapping products and sum; shift = tapsFactor - scaleFactor
@@ -274,18 +272,11 @@ TEST(FirDirectFactor, ComplexPartsFollowTheShiftRule) {
     EXPECT_EQ(kelsFIROne32sc_Direct_16sc_Sfs(x, &y, &tap, 1, factor, d, &i, sf), kelStsOk);
     return y;
   };
-  Kel16sc y = one({1, 2}, {3, 4}, 0, 0);  // (1+2i)(3+4i) = -5 + 10i
-  EXPECT_EQ(y.re, -5);
-  EXPECT_EQ(y.im, 10);
-  y = one({1, 2}, {3, 4}, -1, 0);  // -2.5 -> -2, 5
-  EXPECT_EQ(y.re, -2);
-  EXPECT_EQ(y.im, 5);
-  y = one({1, 2}, {3, 4}, 0, -13);  // shift 13: -40960 and 81920 saturate
-  EXPECT_EQ(y.re, -32768);
-  EXPECT_EQ(y.im, 32767);
-  y = one({1 << 20, 0}, {4096, 4096}, 0, 0);  // products 2^32 wrap to 0
-  EXPECT_EQ(y.re, 0);
-  EXPECT_EQ(y.im, 0);
+  auto is = [](Kel16sc y, int re, int im) { return y.re == re && y.im == im; };
+  EXPECT_TRUE(is(one({1, 2}, {3, 4}, 0, 0), -5, 10));                 // (1+2i)(3+4i) = -5 + 10i
+  EXPECT_TRUE(is(one({1, 2}, {3, 4}, -1, 0), -2, 5));                 // -2.5 -> -2, 5
+  EXPECT_TRUE(is(one({1, 2}, {3, 4}, 0, -13), -32768, 32767));        // shift 13: -40960 and 81920 saturate
+  EXPECT_TRUE(is(one({1 << 20, 0}, {4096, 4096}, 0, 0), 0, 0));       // products 2^32 wrap to 0
 }
 
 TEST(FirDirect32f, SumsSingleProductsInExtendedPrecision) {
