@@ -99,8 +99,10 @@ struct Api {
 #define KELS_API_ALPHA(name, code, T)                                                     \
   Api<T>{[](const T* s, T* d, int n, float a) { return kelsWin##name##_##code(s, d, n, a); }, \
          [](T* sd, int n, float a) { return kelsWin##name##_##code##_I(sd, n, a); }}
-// The members of one type, in the order of Win.
-#define KELS_API_TABLE(code, T)                                                                                  \
+// The members of one type, in the order of Win, and its part type.
+template <class T> struct Traits;
+#define KELS_API_TABLE(code, T, P_, parts_)                                                                      \
+  template <> struct Traits<T> { using P = P_; static constexpr int parts = parts_; };                           \
   template <>                                                                                                    \
   Api<T> api<T>(Win w) {                                                                                         \
     const Api<T> all[] = {KELS_API_PLAIN(Bartlett, code, T),    KELS_API_PLAIN(Hann, code, T),                  \
@@ -110,22 +112,14 @@ struct Api {
     return all[static_cast<int>(w)];                                                                             \
   }
 template <class T> Api<T> api(Win w);
-KELS_API_TABLE(16s, Kel16s)
-KELS_API_TABLE(16sc, Kel16sc)
-KELS_API_TABLE(32f, Kel32f)
-KELS_API_TABLE(32fc, Kel32fc)
-KELS_API_TABLE(64f, Kel64f)
-KELS_API_TABLE(64fc, Kel64fc)
+KELS_API_TABLE(16s, Kel16s, Kel16s, 1)
+KELS_API_TABLE(16sc, Kel16sc, Kel16s, 2)
+KELS_API_TABLE(32f, Kel32f, Kel32f, 1)
+KELS_API_TABLE(32fc, Kel32fc, Kel32f, 2)
+KELS_API_TABLE(64f, Kel64f, Kel64f, 1)
+KELS_API_TABLE(64fc, Kel64fc, Kel64f, 2)
 
 // ---- Element helpers.
-template <class T> struct Traits;
-template <> struct Traits<Kel16s> { using P = Kel16s; static constexpr int parts = 1; };
-template <> struct Traits<Kel16sc> { using P = Kel16s; static constexpr int parts = 2; };
-template <> struct Traits<Kel32f> { using P = Kel32f; static constexpr int parts = 1; };
-template <> struct Traits<Kel32fc> { using P = Kel32f; static constexpr int parts = 2; };
-template <> struct Traits<Kel64f> { using P = Kel64f; static constexpr int parts = 1; };
-template <> struct Traits<Kel64fc> { using P = Kel64f; static constexpr int parts = 2; };
-
 template <class T>
 typename Traits<T>::P* parts_of(T* p) { return reinterpret_cast<typename Traits<T>::P*>(p); }
 
