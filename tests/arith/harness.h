@@ -167,8 +167,6 @@ KelStatus expected_status(Op op, bool divisor_is_vector, const TY* y, std::size_
   return kelStsOk;
 }
 
-inline std::vector<int> harness_lengths() { return {1, 3, 8, 17, 64, 131}; }
-
 template <class T>
 T nonzero_constant(std::mt19937& g) {
   for (;;) {
@@ -182,171 +180,89 @@ T nonzero_constant(std::mt19937& g) {
   }
 }
 
-template <class T>
-std::vector<int> scale_factors_for(bool has_sf) {
-  return has_sf ? all_scale_factors() : std::vector<int>{0};
-}
-
-// ---- Vector-vector forms: fn(pSrc1, pSrc2, pDst, len[, sf]). For Sub and
-// Div the left operand is pSrc2.
-template <class A, class B, class D, class Call>
-void run_vv(const std::string& name, Op op, bool has_sf, Call call) {
+// One form of a member, called uniformly as call(p, q, d, len, sf): p is a
+// vector operand (for the in-place forms, the initial content of d), q the
+// other operand (a vector, or the constant q[0]); d receives p op q when
+// p_left, else q op p. Runs every scale factor (when the member has one)
+// and length against the models, then the argument checks: each pointer
+// argument null (also with a bad length), then bad lengths, nothing
+// written on failure.
+template <class D, class P, class Q, class Call>
+void run_form(const std::string& name, Op op, bool p_left, bool q_const, bool in_place, bool has_sf, Call call) {
   SCOPED_TRACE(name);
   std::mt19937 g(1234);
-  const bool swapped = op == Op::sub || op == Op::div;
-  for (int sf : scale_factors_for<D>(has_sf)) {
-    for (int len : harness_lengths()) {
+  for (int sf : has_sf ? all_scale_factors() : std::vector<int>{0}) {
+    for (int len : {1, 3, 8, 17, 64, 131}) {
       const auto n = static_cast<std::size_t>(len);
-      const auto s1 = random_vector<A>(n, g);
-      const auto s2 = random_vector<B>(n, g);
+      const auto p = random_vector<P>(n, g);
+      const auto q = q_const ? std::vector<Q>{nonzero_constant<Q>(g)} : random_vector<Q>(n, g);
       Guarded<D> dst(n);
-      const KelStatus sts = call(s1.data(), s2.data(), dst.data(), len, sf);
-      const KelStatus want = swapped ? expected_status<D>(op, true, s1.data(), n, sf) : kelStsOk;
-      ASSERT_EQ(sts, want) << "sf " << sf << " len " << len;
+      if constexpr (std::is_same_v<P, D>) {
+        if (in_place) std::copy(p.begin(), p.end(), dst.data());
+      }
+      // The divisor (right operand) draws the zero-divisor warning when it
+      // is a vector.
+      const KelStatus want = !p_left ? expected_status<D>(op, true, p.data(), n, sf)
+                             : q_const ? kelStsOk : expected_status<D>(op, true, q.data(), n, sf);
+      ASSERT_EQ(call(p.data(), q.data(), dst.data(), len, sf), want) << "sf " << sf << " len " << len;
       ASSERT_TRUE(dst.guards_intact());
       for (std::size_t i = 0; i < n; ++i) {
-        const auto r = swapped ? element_ok<D>(op, s2[i], s1[i], sf, dst[i]) : element_ok<D>(op, s1[i], s2[i], sf, dst[i]);
+        const Q& qi = q[q_const ? 0 : i];
+        const auto r = p_left ? element_ok<D>(op, p[i], qi, sf, dst[i]) : element_ok<D>(op, qi, p[i], sf, dst[i]);
         ASSERT_TRUE(r) << "sf " << sf << " len " << len << " i " << i;
       }
     }
   }
-  // Checks: null pointers before lengths; nothing written on failure.
-  std::vector<A> a(4, A{});
-  std::vector<B> b(4, B{});
+  const std::vector<P> p(4, P{});
+  const std::vector<Q> q(4, nonzero_constant<Q>(g));
   Guarded<D> d(4);
-  EXPECT_EQ(call(nullptr, b.data(), d.data(), 4, 0), kelStsNullPtr);
-  EXPECT_EQ(call(a.data(), nullptr, d.data(), 4, 0), kelStsNullPtr);
-  EXPECT_EQ(call(a.data(), b.data(), nullptr, 4, 0), kelStsNullPtr);
-  EXPECT_EQ(call(nullptr, b.data(), d.data(), 0, 0), kelStsNullPtr);
-  EXPECT_EQ(call(a.data(), b.data(), d.data(), 0, 0), kelStsBadLength);
-  EXPECT_EQ(call(a.data(), b.data(), d.data(), -5, 0), kelStsBadLength);
-  EXPECT_TRUE(d.untouched());
-}
-
-// In place: fn(pSrc, pSrcDst, len[, sf]); Sub and Div compute pSrcDst op pSrc.
-template <class A, class D, class Call>
-void run_vvi(const std::string& name, Op op, bool has_sf, Call call) {
-  SCOPED_TRACE(name);
-  std::mt19937 g(777);
-  const bool swapped = op == Op::sub || op == Op::div;
-  for (int sf : scale_factors_for<D>(has_sf)) {
-    for (int len : harness_lengths()) {
-      const auto n = static_cast<std::size_t>(len);
-      const auto s = random_vector<A>(n, g);
-      const auto orig = random_vector<D>(n, g);
-      Guarded<D> sd(n);
-      std::copy(orig.begin(), orig.end(), sd.data());
-      const KelStatus sts = call(s.data(), sd.data(), len, sf);
-      const KelStatus want = swapped ? expected_status<D>(op, true, s.data(), n, sf) : kelStsOk;
-      ASSERT_EQ(sts, want) << "sf " << sf << " len " << len;
-      ASSERT_TRUE(sd.guards_intact());
-      for (std::size_t i = 0; i < n; ++i) {
-        const auto r = swapped ? element_ok<D>(op, orig[i], s[i], sf, sd[i]) : element_ok<D>(op, s[i], orig[i], sf, sd[i]);
-        ASSERT_TRUE(r) << "sf " << sf << " len " << len << " i " << i;
-      }
-    }
+  if (!in_place) {
+    EXPECT_EQ(call(nullptr, q.data(), d.data(), 4, 0), kelStsNullPtr);
+    EXPECT_EQ(call(nullptr, q.data(), d.data(), 0, 0), kelStsNullPtr);
   }
-  std::vector<A> a(4, A{});
-  Guarded<D> d(4);
-  EXPECT_EQ(call(nullptr, d.data(), 4, 0), kelStsNullPtr);
-  EXPECT_EQ(call(a.data(), nullptr, 4, 0), kelStsNullPtr);
-  EXPECT_EQ(call(a.data(), d.data(), 0, 0), kelStsBadLength);
+  if (!q_const) {
+    EXPECT_EQ(call(p.data(), nullptr, d.data(), 4, 0), kelStsNullPtr);
+  }
+  EXPECT_EQ(call(p.data(), q.data(), nullptr, 4, 0), kelStsNullPtr);
+  EXPECT_EQ(call(p.data(), q.data(), d.data(), 0, 0), kelStsBadLength);
+  EXPECT_EQ(call(p.data(), q.data(), d.data(), -5, 0), kelStsBadLength);
   EXPECT_TRUE(d.untouched());
 }
 
-// Constant forms: fn(pSrc, val, pDst, len[, sf]) computes src op val, or
+// Front ends by signature (S: the scale factor, if the member has one).
+// Sub and Div compute pSrc2 - pSrc1 and pSrcDst - pSrc; the constant forms
 // val op src when rev.
-template <class A, class D, class Call>
-void run_vc(const std::string& name, Op op, bool rev, bool has_sf, Call call) {
-  SCOPED_TRACE(name);
-  std::mt19937 g(4321);
-  for (int sf : scale_factors_for<D>(has_sf)) {
-    for (int len : harness_lengths()) {
-      const auto n = static_cast<std::size_t>(len);
-      const auto s = random_vector<A>(n, g);
-      const A val = nonzero_constant<A>(g);
-      Guarded<D> dst(n);
-      const KelStatus sts = call(s.data(), val, dst.data(), len, sf);
-      const KelStatus want = rev ? expected_status<D>(op, true, s.data(), n, sf) : kelStsOk;
-      ASSERT_EQ(sts, want) << "sf " << sf << " len " << len;
-      ASSERT_TRUE(dst.guards_intact());
-      for (std::size_t i = 0; i < n; ++i) {
-        const auto r = rev ? element_ok<D>(op, val, s[i], sf, dst[i]) : element_ok<D>(op, s[i], val, sf, dst[i]);
-        ASSERT_TRUE(r) << "sf " << sf << " len " << len << " i " << i;
-      }
-    }
-  }
-  std::mt19937 g2(5);
-  const A val = nonzero_constant<A>(g2);
-  std::vector<A> a(4, A{});
-  Guarded<D> d(4);
-  EXPECT_EQ(call(nullptr, val, d.data(), 4, 0), kelStsNullPtr);
-  EXPECT_EQ(call(a.data(), val, nullptr, 4, 0), kelStsNullPtr);
-  EXPECT_EQ(call(a.data(), val, d.data(), 0, 0), kelStsBadLength);
-  EXPECT_TRUE(d.untouched());
+inline bool swapped(Op op) { return op == Op::sub || op == Op::div; }
+template <class A, class B, class D, class... S>
+void check_form(const char* name, Op op, bool, KelStatus (*fn)(const A*, const B*, D*, int, S...)) {
+  run_form<D, A, B>(name, op, !swapped(op), false, false, sizeof...(S) > 0,
+                    [fn](const A* a, const B* b, D* d, int n, [[maybe_unused]] int sf) { return fn(a, b, d, n, S(sf)...); });
+}
+template <class A, class D, class... S>
+void check_form(const char* name, Op op, bool, KelStatus (*fn)(const A*, D*, int, S...)) {
+  run_form<D, D, A>(name, op, swapped(op), false, true, sizeof...(S) > 0,
+                    [fn](const D*, const A* a, D* d, int n, [[maybe_unused]] int sf) { return fn(a, d, n, S(sf)...); });
+}
+template <class A, class D, class... S>
+void check_form(const char* name, Op op, bool rev, KelStatus (*fn)(const A*, A, D*, int, S...)) {
+  run_form<D, A, A>(name, op, !rev, true, false, sizeof...(S) > 0,
+                    [fn](const A* a, const A* v, D* d, int n, [[maybe_unused]] int sf) { return fn(a, *v, d, n, S(sf)...); });
+}
+template <class A, class D, class... S>
+void check_form(const char* name, Op op, bool rev, KelStatus (*fn)(A, D*, int, S...)) {
+  run_form<D, D, A>(name, op, !rev, true, true, sizeof...(S) > 0,
+                    [fn](const D*, const A* v, D* d, int n, [[maybe_unused]] int sf) { return fn(*v, d, n, S(sf)...); });
 }
 
-template <class A, class D, class Call>
-void run_vci(const std::string& name, Op op, bool rev, bool has_sf, Call call) {
-  SCOPED_TRACE(name);
-  std::mt19937 g(99);
-  for (int sf : scale_factors_for<D>(has_sf)) {
-    for (int len : harness_lengths()) {
-      const auto n = static_cast<std::size_t>(len);
-      const auto orig = random_vector<D>(n, g);
-      const A val = nonzero_constant<A>(g);
-      Guarded<D> sd(n);
-      std::copy(orig.begin(), orig.end(), sd.data());
-      const KelStatus sts = call(val, sd.data(), len, sf);
-      const KelStatus want = rev ? expected_status<D>(op, true, orig.data(), n, sf) : kelStsOk;
-      ASSERT_EQ(sts, want) << "sf " << sf << " len " << len;
-      ASSERT_TRUE(sd.guards_intact());
-      for (std::size_t i = 0; i < n; ++i) {
-        const auto r = rev ? element_ok<D>(op, val, orig[i], sf, sd[i]) : element_ok<D>(op, orig[i], val, sf, sd[i]);
-        ASSERT_TRUE(r) << "sf " << sf << " len " << len << " i " << i;
-      }
-    }
-  }
-  std::mt19937 g2(5);
-  const A val = nonzero_constant<A>(g2);
-  Guarded<D> d(4);
-  EXPECT_EQ(call(val, nullptr, 4, 0), kelStsNullPtr);
-  EXPECT_EQ(call(val, d.data(), 0, 0), kelStsBadLength);
-  EXPECT_TRUE(d.untouched());
-}
-
-// Front ends deducing the types from the member's signature.
-template <class A, class B, class D>
-void check_vv(const char* name, Op op, KelStatus (*fn)(const A*, const B*, D*, int, int)) {
-  run_vv<A, B, D>(name, op, true, [fn](const A* a, const B* b, D* d, int n, int sf) { return fn(a, b, d, n, sf); });
-}
-template <class A, class B, class D>
-void check_vv(const char* name, Op op, KelStatus (*fn)(const A*, const B*, D*, int)) {
-  run_vv<A, B, D>(name, op, false, [fn](const A* a, const B* b, D* d, int n, int) { return fn(a, b, d, n); });
-}
-template <class A, class D>
-void check_vvi(const char* name, Op op, KelStatus (*fn)(const A*, D*, int, int)) {
-  run_vvi<A, D>(name, op, true, [fn](const A* a, D* d, int n, int sf) { return fn(a, d, n, sf); });
-}
-template <class A, class D>
-void check_vvi(const char* name, Op op, KelStatus (*fn)(const A*, D*, int)) {
-  run_vvi<A, D>(name, op, false, [fn](const A* a, D* d, int n, int) { return fn(a, d, n); });
-}
-template <class A, class D>
-void check_vc(const char* name, Op op, bool rev, KelStatus (*fn)(const A*, A, D*, int, int)) {
-  run_vc<A, D>(name, op, rev, true, [fn](const A* a, A v, D* d, int n, int sf) { return fn(a, v, d, n, sf); });
-}
-template <class A, class D>
-void check_vc(const char* name, Op op, bool rev, KelStatus (*fn)(const A*, A, D*, int)) {
-  run_vc<A, D>(name, op, rev, false, [fn](const A* a, A v, D* d, int n, int) { return fn(a, v, d, n); });
-}
-template <class A, class D>
-void check_vci(const char* name, Op op, bool rev, KelStatus (*fn)(A, D*, int, int)) {
-  run_vci<A, D>(name, op, rev, true, [fn](A v, D* d, int n, int sf) { return fn(v, d, n, sf); });
-}
-template <class A, class D>
-void check_vci(const char* name, Op op, bool rev, KelStatus (*fn)(A, D*, int)) {
-  run_vci<A, D>(name, op, rev, false, [fn](A v, D* d, int n, int) { return fn(v, d, n); });
+// A member by name: the operation from its first word, "CRev" reversed.
+template <class F>
+void check_member(const char* name, F fn) {
+  const std::string n(name);
+  const Op op = n.rfind("Add", 0) == 0   ? Op::add
+                : n.rfind("Sub", 0) == 0 ? Op::sub
+                : n.rfind("Mul", 0) == 0 ? Op::mul
+                                         : Op::div;
+  check_form(name, op, n.find("CRev") != std::string::npos, fn);
 }
 
 }  // namespace kels::test

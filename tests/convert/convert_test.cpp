@@ -152,53 +152,36 @@ TEST(Convert, IntegerToFloatScaleClamps) {
   EXPECT_EQ(0x1p-126f, r);
 }
 
-// Integer narrowing with 24-bit or 16-bit bounds, checked against the
-// rounding of the exactly scaled value.
-template <class S>
-void check_narrow(const std::function<void(const S*, std::vector<std::int64_t>&, int, int)>& run,
-                  long double lo, long double hi, int lo_clamp, int hi_clamp) {
-  auto src = integer_data<S>(203, 11);
-  for (int k = 1; k < 31; ++k) src.push_back(static_cast<S>((S{1} << k) | (S{1} << (k - 1))));  // ties
-  for (int k = 1; k < 31; ++k) src.push_back(static_cast<S>(-static_cast<long long>(S{1} << (k - 1)) * 3));
-  std::vector<std::int64_t> got;
-  for (int sf = -70; sf <= 70; ++sf) {
-    run(src.data(), got, static_cast<int>(src.size()), sf);
-    const int s = std::clamp(sf, lo_clamp, hi_clamp);
-    for (std::size_t i = 0; i < src.size(); ++i) {
-      const long double expect = model_round(std::ldexp(static_cast<long double>(src[i]), -s), true, lo, hi);
-      ASSERT_EQ(static_cast<std::int64_t>(expect), got[i]) << "sf=" << sf << " x=" << src[i];
-    }
-  }
-}
-
 std::int64_t get24(const Kel8u* p, bool sign) {
   std::int64_t v = p[0] | (p[1] << 8) | (p[2] << 16);
   return sign && v >= 0x800000 ? v - 0x1000000 : v;
 }
 
+// Integer narrowing with 24-bit (packed: D is the byte) or 16/32-bit
+// bounds, checked against the rounding of the exactly scaled value.
+template <class S, class D>
+void check_narrow(KelStatus (*fn)(const S*, D*, int, int), bool packed, long double lo, long double hi, int lo_clamp,
+                  int hi_clamp) {
+  auto src = integer_data<S>(203, 11);
+  for (int k = 1; k < 31; ++k) src.push_back(static_cast<S>((S{1} << k) | (S{1} << (k - 1))));  // ties
+  for (int k = 1; k < 31; ++k) src.push_back(static_cast<S>(-static_cast<long long>(S{1} << (k - 1)) * 3));
+  std::vector<D> d(src.size() * (packed ? 3 : 1));
+  for (int sf = -70; sf <= 70; ++sf) {
+    ASSERT_EQ(kelStsOk, fn(src.data(), d.data(), static_cast<int>(src.size()), sf));
+    const int s = std::clamp(sf, lo_clamp, hi_clamp);
+    for (std::size_t i = 0; i < src.size(); ++i) {
+      const long double expect = model_round(std::ldexp(static_cast<long double>(src[i]), -s), true, lo, hi);
+      const std::int64_t got = packed ? get24(reinterpret_cast<const Kel8u*>(&d[3 * i]), lo < 0) : d[i];
+      ASSERT_EQ(static_cast<std::int64_t>(expect), got) << "sf=" << sf << " x=" << src[i];
+    }
+  }
+}
+
 TEST(Convert, IntegerNarrowingRoundsEvenAndSaturates) {
-  check_narrow<Kel32s>([](const Kel32s* s, std::vector<std::int64_t>& out, int n, int sf) {
-    std::vector<Kel16s> d(n);
-    ASSERT_EQ(kelStsOk, kelsConvert_32s16s_Sfs(s, d.data(), n, sf));
-    out.assign(d.begin(), d.end());
-  }, -32768, 32767, -15, 31);
-  check_narrow<Kel32s>([](const Kel32s* s, std::vector<std::int64_t>& out, int n, int sf) {
-    std::vector<Kel8u> d(3 * n);
-    ASSERT_EQ(kelStsOk, kelsConvert_32s24s_Sfs(s, d.data(), n, sf));
-    out.resize(n);
-    for (int i = 0; i < n; ++i) out[i] = get24(&d[3 * i], true);
-  }, -8388608, 8388607, -15, 31);
-  check_narrow<Kel32u>([](const Kel32u* s, std::vector<std::int64_t>& out, int n, int sf) {
-    std::vector<Kel8u> d(3 * n);
-    ASSERT_EQ(kelStsOk, kelsConvert_32u24u_Sfs(s, d.data(), n, sf));
-    out.resize(n);
-    for (int i = 0; i < n; ++i) out[i] = get24(&d[3 * i], false);
-  }, 0, 16777215, -15, 31);
-  check_narrow<Kel64s>([](const Kel64s* s, std::vector<std::int64_t>& out, int n, int sf) {
-    std::vector<Kel32s> d(n);
-    ASSERT_EQ(kelStsOk, kelsConvert_64s32s_Sfs(s, d.data(), n, sf));
-    out.assign(d.begin(), d.end());
-  }, INT32_MIN, INT32_MAX, -100000, 100000);
+  check_narrow(kelsConvert_32s16s_Sfs, false, -32768, 32767, -15, 31);
+  check_narrow(kelsConvert_32s24s_Sfs, true, -8388608, 8388607, -15, 31);
+  check_narrow(kelsConvert_32u24u_Sfs, true, 0, 16777215, -15, 31);
+  check_narrow(kelsConvert_64s32s_Sfs, false, INT32_MIN, INT32_MAX, -100000, 100000);
   // Unscaled 32s16s saturates.
   const Kel32s x[] = {40000, -40000, 32767, -32768, 5};
   Kel16s y[5];
@@ -431,19 +414,6 @@ TEST(Convert, Int16AndHalf) {
 }
 
 // ---- Rounding control.
-
-TEST(Convert, InterfaceExamples) {
-  const float x[] = {2.5f, -2.5f, 40000.0f, -1e9f};
-  Kel16s y[4];
-  ASSERT_EQ(kelStsOk, kelsConvert_32f16s_Sfs(x, y, 4, 1, 0));
-  EXPECT_EQ((std::vector<Kel16s>{2, -2, 32767, -32768}), std::vector<Kel16s>(y, y + 4));
-  ASSERT_EQ(kelStsOk, kelsConvert_32f16s_Sfs(x, y, 4, 0, 0));
-  EXPECT_EQ((std::vector<Kel16s>{2, -2, 32767, -32768}), std::vector<Kel16s>(y, y + 4));
-  const Kel32s a[] = {3, 5};
-  ASSERT_EQ(kelStsOk, kelsConvert_32s16s_Sfs(a, y, 2, 1));
-  EXPECT_EQ(2, y[0]);
-  EXPECT_EQ(2, y[1]);
-}
 
 class SseModeScope {
  public:

@@ -65,11 +65,15 @@ void compare_with_twin(const std::string& what, Kernel kernel, Twin twin, Gen ge
   });
 }
 
+// A kernel and its scalar twin as two callables of (src, dst, n), with the
+// extra arguments captured.
+#define KELS_TWINS(S, D, kernel, twin, ...)                                     \
+  [=](const S* s, D* d, std::size_t n) { kernel(s, d, n __VA_ARGS__); }, \
+      [=](const S* s, D* d, std::size_t n) { scalar::twin(s, d, n __VA_ARGS__); }
+
 template <class S, class D>
 void widen_case() {
-  compare_with_twin<S, D>(
-      "widen", [](const S* s, D* d, std::size_t n) { widen(s, d, n); },
-      [](const S* s, D* d, std::size_t n) { scalar::widen(s, d, n); }, sample<S>);
+  compare_with_twin<S, D>("widen", KELS_TWINS(S, D, widen, widen, ), sample<S>);
 }
 
 TEST(ConvertKernels, Widen) {
@@ -80,9 +84,7 @@ TEST(ConvertKernels, Widen) {
 
 template <class S>
 void to_float_case(float factor) {
-  compare_with_twin<S, float>(
-      "to_float", [=](const S* s, float* d, std::size_t n) { to_float(s, d, n, factor); },
-      [=](const S* s, float* d, std::size_t n) { scalar::to_floating(s, d, n, factor); }, sample<S>);
+  compare_with_twin<S, float>("to_float", KELS_TWINS(S, float, to_float, to_floating, , factor), sample<S>);
 }
 
 TEST(ConvertKernels, IntegerToFloat) {
@@ -94,22 +96,16 @@ TEST(ConvertKernels, IntegerToFloat) {
     to_float_case<std::int32_t>(f);
   }
   for (double f : {1.0, 0x1p-40, 0x1p1000}) {
-    compare_with_twin<std::int16_t, double>(
-        "to_double16", [=](const std::int16_t* s, double* d, std::size_t n) { to_double(s, d, n, f); },
-        [=](const std::int16_t* s, double* d, std::size_t n) { scalar::to_floating(s, d, n, f); },
-        sample<std::int16_t>);
-    compare_with_twin<std::int32_t, double>(
-        "to_double32", [=](const std::int32_t* s, double* d, std::size_t n) { to_double(s, d, n, f); },
-        [=](const std::int32_t* s, double* d, std::size_t n) { scalar::to_floating(s, d, n, f); },
-        sample<std::int32_t>);
+    compare_with_twin<std::int16_t, double>("to_double16", KELS_TWINS(std::int16_t, double, to_double, to_floating, , f),
+                                            sample<std::int16_t>);
+    compare_with_twin<std::int32_t, double>("to_double32", KELS_TWINS(std::int32_t, double, to_double, to_floating, , f),
+                                            sample<std::int32_t>);
   }
 }
 
 TEST(ConvertKernels, DoubleToFloatSaturating) {
   compare_with_twin<double, float>(
-      "f64_to_f32_sat", [](const double* s, float* d, std::size_t n) { f64_to_f32_sat(s, d, n); },
-      [](const double* s, float* d, std::size_t n) { scalar::f64_to_f32_sat(s, d, n); },
-      [](std::mt19937& g, std::size_t i) {
+      "f64_to_f32_sat", KELS_TWINS(double, float, f64_to_f32_sat, f64_to_f32_sat, ), [](std::mt19937& g, std::size_t i) {
         return i % 5 == 4 ? (i % 10 == 4 ? 3.4028235e38 : -3.5e38) : sample<double>(g, i) * 1e10;
       });
 }
@@ -118,8 +114,7 @@ template <class D>
 void f32_to_int_case(int sf, bool nearest) {
   compare_with_twin<float, D>(
       "f32_to_int sf=" + std::to_string(sf) + (nearest ? " near" : " zero"),
-      [=](const float* s, D* d, std::size_t n) { f32_to_int(s, d, n, sf, nearest); },
-      [=](const float* s, D* d, std::size_t n) { scalar::f_to_int(s, d, n, sf, nearest); }, sample<float>);
+      KELS_TWINS(float, D, f32_to_int, f_to_int, , sf, nearest), sample<float>);
 }
 
 TEST(ConvertKernels, FloatToInteger) {
@@ -138,8 +133,7 @@ TEST(ConvertKernels, Narrow32To16Scaled) {
   for (int sf : {-15, -14, -8, -1, 0, 1, 2, 7, 15, 16, 17, 30, 31}) {
     compare_with_twin<std::int32_t, std::int16_t>(
         "s32_to_s16_scaled sf=" + std::to_string(sf),
-        [=](const std::int32_t* s, std::int16_t* d, std::size_t n) { s32_to_s16_scaled(s, d, n, sf); },
-        [=](const std::int32_t* s, std::int16_t* d, std::size_t n) { scalar::s32_to_s16_scaled(s, d, n, sf); },
+        KELS_TWINS(std::int32_t, std::int16_t, s32_to_s16_scaled, s32_to_s16_scaled, , sf),
         [=](std::mt19937& g, std::size_t i) {
           // Exact ties for this shift, small values and the full range.
           if (i % 4 == 1 && sf > 0) return static_cast<std::int32_t>((static_cast<std::int32_t>(g() % 4001) - 2000) * (1 << (sf - 1)));
@@ -150,13 +144,11 @@ TEST(ConvertKernels, Narrow32To16Scaled) {
 }
 
 TEST(ConvertKernels, HalfPrecision) {
-  compare_with_twin<std::uint16_t, float>(
-      "f16_to_f32", [](const std::uint16_t* s, float* d, std::size_t n) { f16_to_f32(s, d, n); },
-      [](const std::uint16_t* s, float* d, std::size_t n) { scalar::f16_to_f32(s, d, n); }, half_sample);
+  compare_with_twin<std::uint16_t, float>("f16_to_f32", KELS_TWINS(std::uint16_t, float, f16_to_f32, f16_to_f32, ),
+                                          half_sample);
   for (bool nearest : {true, false}) {
     compare_with_twin<float, std::uint16_t>(
-        "f32_to_f16", [=](const float* s, std::uint16_t* d, std::size_t n) { f32_to_f16(s, d, n, nearest); },
-        [=](const float* s, std::uint16_t* d, std::size_t n) { scalar::f32_to_f16(s, d, n, nearest); },
+        "f32_to_f16", KELS_TWINS(float, std::uint16_t, f32_to_f16, f32_to_f16, , nearest),
         [](std::mt19937& g, std::size_t i) {
           // Bit patterns around the half range: exponents 100..145.
           const std::uint32_t e = 100 + g() % 46;

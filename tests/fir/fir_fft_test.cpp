@@ -17,12 +17,6 @@
 namespace kels::test::fir {
 namespace {
 
-struct Threads {
-  int saved = kel_get_num_threads();
-  explicit Threads(int n) { kel_set_num_threads(n); }
-  ~Threads() { kel_set_num_threads(saved); }
-};
-
 // N of a record with L taps: twice the smallest power of two (>= 4) above L.
 int fft_len(int L) {
   int k = 2;
@@ -58,16 +52,8 @@ Filtered run_32f(const std::vector<Kel32f>& taps, const std::vector<Kel32f>& his
   r.dly.assign(static_cast<std::size_t>(L), 0.f);
   EXPECT_EQ(kelsFIRGetDlyLine_32f(st, r.dly.data()), kelStsOk);
   EXPECT_EQ(kelsFIRFree_32f(st), kelStsOk);
-  // History: the last L samples of hist-then-input, newest first.
-  std::vector<Kel32f> all(hist.rbegin(), hist.rend());
-  all.insert(all.end(), in.begin(), in.end());
-  for (int i = 0; i < L; ++i) EXPECT_EQ(r.dly[static_cast<std::size_t>(i)], all[all.size() - 1 - static_cast<std::size_t>(i)]) << i;
-  const auto ref = reference(taps, hist, in);
-  const auto mag = magnitude(taps, hist, in);
-  int bad = 0;
-  for (std::size_t n = 0; n < in.size(); n += static_cast<std::size_t>(stride)) {
-    if (!close(r.out[n], ref[n], mag[n], taps.size()) && ++bad < 5) ADD_FAILURE() << "output " << n << " L " << L;
-  }
+  EXPECT_TRUE(same_vec(r.dly, expected_history(hist, in, taps.size())));
+  expect_reference(taps, hist, in, r.out.data(), 0, 0, 4, static_cast<std::size_t>(stride));
   return r;
 }
 
@@ -121,11 +107,11 @@ TEST(FirFft32f, ParallelPathEqualsSerialForAnyThreadCount) {
     const std::vector<int> pieces{160001, 1000, 160001};
     Filtered serial;
     {
-      Threads t(1);
+      ThreadCount t(1);
       serial = run_32f(taps, hist, in, pieces, false, 37);
     }
     for (int T : {2, 3}) {
-      Threads t(T);
+      ThreadCount t(T);
       const Filtered par = run_32f(taps, hist, in, pieces, false, 1000);
       EXPECT_TRUE(par.out == serial.out) << "threads " << T << " L " << L;
       EXPECT_TRUE(par.dly == serial.dly) << "threads " << T << " L " << L;
@@ -142,12 +128,12 @@ TEST(FirFft32f, ThreadCountChangedAfterInitAlloc) {
   const auto in = random_data<Kel32f>(170000, g);
   KelsFIRState_32f* st = nullptr;
   {
-    Threads t(1);
+    ThreadCount t(1);
     ASSERT_EQ(kelsFIRInitAlloc_32f(&st, taps.data(), 128, hist.data()), kelStsOk);
   }
   std::vector<Kel32f> a(in.size()), b(in.size());
   {
-    Threads t(3);
+    ThreadCount t(3);
     ASSERT_EQ(kelsFIR_32f(in.data(), a.data(), 170000, st), kelStsOk);
   }
   ASSERT_EQ(kelsFIRSetDlyLine_32f(st, hist.data()), kelStsOk);
@@ -167,10 +153,7 @@ TEST(FirFft32f, SetTapsRebuildsTransformedTaps) {
   std::vector<Kel32f> out(in.size());
   ASSERT_EQ(kelsFIR_32f(in.data(), out.data(), 3000, st), kelStsOk);
   EXPECT_EQ(kelsFIRFree_32f(st), kelStsOk);
-  const std::vector<Kel32f> zero(200, 0.f);
-  const auto ref = reference(t2, zero, in);
-  const auto mag = magnitude(t2, zero, in);
-  for (std::size_t n = 0; n < in.size(); ++n) ASSERT_TRUE(close(out[n], ref[n], mag[n], 200)) << n;
+  expect_reference(t2, std::vector<Kel32f>{}, in, out.data());
 }
 
 // Every allocation of InitAlloc (FFT specification, record) failing in turn
@@ -180,33 +163,28 @@ TEST(FirFft, AllocationFailureReleasesEverything) {
   std::mt19937 g(15);
   const auto tf = random_taps<Kel32f>(100, g);
   std::vector<Kel32s> ti(100, 3);
-  bool made_f = false, made_i = false;
-  for (int k = 1; k <= 12; ++k) {
-    KelsFIRState_32f* sf = nullptr;
-    kels::fail_alloc_after(k);
-    const KelStatus a = kelsFIRInitAlloc_32f(&sf, tf.data(), 100, nullptr);
-    kels::fail_alloc_after(0);
-    if (a == kelStsOk) {
-      made_f = true;
-      EXPECT_EQ(kelsFIRFree_32f(sf), kelStsOk);
-    } else {
-      EXPECT_EQ(a, kelStsNoMemory);
-      EXPECT_EQ(sf, nullptr);
+  // Each record kind made with the k-th allocation failing, k = 1, 2, ...
+  auto attempts = [](auto* no_state, auto init, auto release) {
+    bool made = false;
+    for (int k = 1; k <= 12; ++k) {
+      decltype(no_state) st = nullptr;
+      kels::fail_alloc_after(k);
+      const KelStatus sts = init(&st);
+      kels::fail_alloc_after(0);
+      if (sts == kelStsOk) {
+        made = true;
+        EXPECT_EQ(release(st), kelStsOk);
+      } else {
+        EXPECT_EQ(sts, kelStsNoMemory);
+        EXPECT_EQ(st, nullptr);
+      }
     }
-    KelsFIRState_32s* si = nullptr;
-    kels::fail_alloc_after(k);
-    const KelStatus b = kelsFIRInitAlloc_32s(&si, ti.data(), 100, 0, nullptr);
-    kels::fail_alloc_after(0);
-    if (b == kelStsOk) {
-      made_i = true;
-      EXPECT_EQ(kelsFIRFree_32s(si), kelStsOk);
-    } else {
-      EXPECT_EQ(b, kelStsNoMemory);
-      EXPECT_EQ(si, nullptr);
-    }
-  }
-  EXPECT_TRUE(made_f);
-  EXPECT_TRUE(made_i);
+    EXPECT_TRUE(made);
+  };
+  attempts(static_cast<KelsFIRState_32f*>(nullptr),
+           [&](KelsFIRState_32f** st) { return kelsFIRInitAlloc_32f(st, tf.data(), 100, nullptr); }, kelsFIRFree_32f);
+  attempts(static_cast<KelsFIRState_32s*>(nullptr),
+           [&](KelsFIRState_32s** st) { return kelsFIRInitAlloc_32s(st, ti.data(), 100, 0, nullptr); }, kelsFIRFree_32s);
 }
 
 // The "12IF" record: double transforms of the integer data. Outputs equal
@@ -227,12 +205,10 @@ TEST(FirFft32s, MatchesExactRuleAndDirectRecord) {
       ASSERT_EQ(kelsFIR_32s_Sfs(in.data(), out.data(), n, st, sf), kelStsOk);
       ASSERT_EQ(kelsFIRGetDlyLine64f_32s(reinterpret_cast<KelsFIRState64f_32s*>(st), dly.data()), kelStsOk);
       EXPECT_EQ(kelsFIRFree_32s(st), kelStsOk);
-      std::vector<Kel32s> all(hist.rbegin(), hist.rend());
-      all.insert(all.end(), in.begin(), in.end());
-      for (int i = 0; i < L; ++i) ASSERT_EQ(dly[static_cast<std::size_t>(i)], all[all.size() - 1 - static_cast<std::size_t>(i)]);
+      EXPECT_TRUE(same_vec(dly, expected_history(hist, in, static_cast<std::size_t>(L))));
       const auto ref = reference(taps, hist, in);
       for (int k = 0; k < n; ++k) {
-        const LD exact = std::ldexp(ref[static_cast<std::size_t>(k)].real(), factor);
+        const LD exact = std::ldexp(ref.y[static_cast<std::size_t>(k)].real(), factor);
         const Kel32s want = expect_int<Kel32s>(exact, sf, 2);
         const std::int64_t d = static_cast<std::int64_t>(out[static_cast<std::size_t>(k)]) - want;
         ASSERT_LE(std::abs(d), 1) << "L " << L << " n " << n << " k " << k;

@@ -4,6 +4,9 @@
 #ifndef KELS_TESTS_FIR_FIR_TEST_UTIL_H
 #define KELS_TESTS_FIR_FIR_TEST_UTIL_H
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
 #include <cmath>
 #include <complex>
 #include <cstdint>
@@ -14,6 +17,7 @@
 #include <vector>
 
 #include "frame/scale.h"
+#include "kelcore.h"
 #include "kels.h"
 
 namespace kels::test::fir {
@@ -89,43 +93,25 @@ std::vector<T> random_taps(std::size_t n, std::mt19937& g) {
 }
 
 // Reference outputs of the filter over `in`, with `history` holding the
-// samples before in[0] newest first. y[n] = sum_j taps[j] * x[n-j].
+// samples before in[0] newest first: y[n] = sum_j taps[j] * x[n-j], and
+// mag[n] = sum_j |taps[j]| |x[n-j]|, the scale of the rounding error.
+struct Ref {
+  std::vector<CLD> y;
+  std::vector<LD> mag;
+};
 template <class Tap, class Data>
-std::vector<CLD> reference(const std::vector<Tap>& taps, const std::vector<Data>& history,
-                           const std::vector<Data>& in) {
-  const std::size_t L = taps.size();
-  std::vector<CLD> out(in.size());
+Ref reference(const std::vector<Tap>& taps, const std::vector<Data>& history, const std::vector<Data>& in) {
+  Ref r{std::vector<CLD>(in.size()), std::vector<LD>(in.size())};
   for (std::size_t n = 0; n < in.size(); ++n) {
-    CLD s = 0;
-    for (std::size_t j = 0; j < L; ++j) {
-      const std::ptrdiff_t idx = static_cast<std::ptrdiff_t>(n) - static_cast<std::ptrdiff_t>(j);
-      const CLD x = idx >= 0 ? to_c(in[static_cast<std::size_t>(idx)])
-                             : (static_cast<std::size_t>(-idx - 1) < history.size()
-                                    ? to_c(history[static_cast<std::size_t>(-idx - 1)]) : CLD(0));
-      s += to_c(taps[j]) * x;
-    }
-    out[n] = s;
-  }
-  return out;
-}
-
-// Sum of |tap| * |x| per output: the scale of the rounding error.
-template <class Tap, class Data>
-std::vector<LD> magnitude(const std::vector<Tap>& taps, const std::vector<Data>& history,
-                          const std::vector<Data>& in) {
-  std::vector<LD> out(in.size());
-  for (std::size_t n = 0; n < in.size(); ++n) {
-    LD s = 0;
     for (std::size_t j = 0; j < taps.size(); ++j) {
       const std::ptrdiff_t idx = static_cast<std::ptrdiff_t>(n) - static_cast<std::ptrdiff_t>(j);
-      const CLD x = idx >= 0 ? to_c(in[static_cast<std::size_t>(idx)])
-                             : (static_cast<std::size_t>(-idx - 1) < history.size()
-                                    ? to_c(history[static_cast<std::size_t>(-idx - 1)]) : CLD(0));
-      s += std::abs(to_c(taps[j])) * std::abs(x);
+      const std::size_t h = static_cast<std::size_t>(-idx - 1);
+      const CLD x = idx >= 0 ? to_c(in[static_cast<std::size_t>(idx)]) : (h < history.size() ? to_c(history[h]) : CLD(0));
+      r.y[n] += to_c(taps[j]) * x;
+      r.mag[n] += std::abs(to_c(taps[j])) * std::abs(x);
     }
-    out[n] = s;
   }
-  return out;
+  return r;
 }
 
 // Expected integer output part: the exact sum (an integer multiple of
@@ -154,6 +140,42 @@ bool close(const Data& y, const CLD& exact, LD mag, std::size_t L, LD k = 4) {
   const LD tol = k * static_cast<LD>(L + 1) * eps * mag + 1e-30L;
   return std::abs(to_c(y) - exact) <= tol;
 }
+
+// Outputs (every stride-th) against the reference: integer data exactly by
+// the rule of expect_value, float data within the bound of close().
+template <class Tap, class Data>
+void expect_reference(const std::vector<Tap>& taps, const std::vector<Data>& history, const std::vector<Data>& in,
+                      const Data* out, int sf = 0, int frac_bits = 8, LD k = 4, std::size_t stride = 1) {
+  const Ref ref = reference(taps, history, in);
+  for (std::size_t n = 0; n < in.size(); n += stride) {
+    if constexpr (is_int_v<Data>) {
+      ASSERT_TRUE(same_bits(out[n], expect_value<Data>(ref.y[n], sf, frac_bits))) << "L=" << taps.size() << " n=" << n;
+    } else {
+      ASSERT_TRUE(close(out[n], ref.y[n], ref.mag[n], taps.size(), k)) << "L=" << taps.size() << " n=" << n;
+    }
+  }
+}
+
+// History read back: the last L samples of (old history, inputs), newest first.
+template <class Data>
+std::vector<Data> expected_history(const std::vector<Data>& history, const std::vector<Data>& in, std::size_t L) {
+  std::vector<Data> e(L);
+  for (std::size_t i = 0; i < L; ++i) e[i] = i < in.size() ? in[in.size() - 1 - i] : history[i - in.size()];
+  return e;
+}
+
+template <class Data>
+bool same_vec(const std::vector<Data>& a, const std::vector<Data>& b) {
+  return a.size() == b.size() &&
+         std::equal(a.begin(), a.end(), b.begin(), [](const Data& x, const Data& y) { return same_bits(x, y); });
+}
+
+// Sets the library's thread count for a scope.
+struct ThreadCount {
+  int saved = kel_get_num_threads();
+  explicit ThreadCount(int n) { kel_set_num_threads(n); }
+  ~ThreadCount() { kel_set_num_threads(saved); }
+};
 
 }  // namespace kels::test::fir
 

@@ -32,7 +32,7 @@ void expect_block_layout(const void* p) {
 }
 
 template <class T>
-void check_malloc(T* (*alloc)(int)) {
+void check_one_malloc(T* (*alloc)(int)) {
   EXPECT_EQ(alloc(0), nullptr);
   EXPECT_EQ(alloc(-5), nullptr);
   for (int n : {1, 2, 7, 33, 1000}) {
@@ -43,22 +43,15 @@ void check_malloc(T* (*alloc)(int)) {
   }
 }
 
+template <class... T>
+void check_malloc(T* (*... alloc)(int)) {
+  (check_one_malloc(alloc), ...);
+}
+
 TEST(Malloc, EveryTypeIsAlignedWithRawAddressBelow) {
-  check_malloc(kelsMalloc_8u);
-  check_malloc(kelsMalloc_16u);
-  check_malloc(kelsMalloc_32u);
-  check_malloc(kelsMalloc_8s);
-  check_malloc(kelsMalloc_16s);
-  check_malloc(kelsMalloc_32s);
-  check_malloc(kelsMalloc_64s);
-  check_malloc(kelsMalloc_32f);
-  check_malloc(kelsMalloc_64f);
-  check_malloc(kelsMalloc_8sc);
-  check_malloc(kelsMalloc_16sc);
-  check_malloc(kelsMalloc_32sc);
-  check_malloc(kelsMalloc_64sc);
-  check_malloc(kelsMalloc_32fc);
-  check_malloc(kelsMalloc_64fc);
+  check_malloc(kelsMalloc_8u, kelsMalloc_16u, kelsMalloc_32u, kelsMalloc_8s, kelsMalloc_16s, kelsMalloc_32s,
+               kelsMalloc_64s, kelsMalloc_32f, kelsMalloc_64f, kelsMalloc_8sc, kelsMalloc_16sc, kelsMalloc_32sc,
+               kelsMalloc_64sc, kelsMalloc_32fc, kelsMalloc_64fc);
   static_assert(sizeof(Kel8sc) == 2 && sizeof(Kel16sc) == 4 && sizeof(Kel64sc) == 16, "element sizes");
 }
 

@@ -161,24 +161,6 @@ TEST(Random, DirectFormsBitForBit) {
   check_direct<Kel16s>(kelsRandUniform_Direct_16s, kelsRandGauss_Direct_16s, -32768, 32767, 100, 20000);
 }
 
-// The congruential part restarts on every _Direct call: a second call with
-// the written-back seed is a fresh generator, not a continuation.
-TEST(Random, DirectRestartsFromWrittenSeed) {
-  unsigned int s = 99;
-  std::vector<Kel32f> a(100), b(100), whole(200);
-  ASSERT_EQ(kelsRandUniform_Direct_32f(a.data(), 100, 0, 1, &s), kelStsOk);
-  const unsigned int s1 = s;
-  ASSERT_EQ(kelsRandUniform_Direct_32f(b.data(), 100, 0, 1, &s), kelStsOk);
-  Model m(s1);
-  expect_same_bits(b, uniform_model<Kel32f>(m, 100, 0.0f, 1.0f), "restart");
-  unsigned int s2 = 99;
-  ASSERT_EQ(kelsRandUniform_Direct_32f(whole.data(), 200, 0, 1, &s2), kelStsOk);
-  EXPECT_NE(0, std::memcmp(b.data(), whole.data() + 100, 100 * sizeof(Kel32f)));
-  unsigned int s3 = 99;
-  ASSERT_EQ(kelsRandUniform_Direct_32f(b.data(), 100, 0, 1, &s3), kelStsOk);
-  expect_same_bits(a, b, "same seed, same vector");
-}
-
 TEST(Random, UniformRangeAndDegenerateBounds) {
   unsigned int s = 7;
   std::vector<Kel64f> v(100000);

@@ -192,21 +192,6 @@ TEST(Logic, Shifts) {
   KELS_TEST_SHIFTS(Kel32s, 32s)
 }
 
-TEST(Logic, InterfaceExamples) {
-  const Kel16s x[] = {-5, 5};
-  Kel16s y[2];
-  ASSERT_EQ(kelStsOk, kelsRShiftC_16s(x, 20, y, 2));
-  EXPECT_EQ(-1, y[0]);
-  EXPECT_EQ(0, y[1]);
-  const Kel16u u[] = {1};
-  EXPECT_EQ(kelStsNullPtr, kelsLShiftC_16u(u, 16, nullptr, 1));
-  Kel16u v[1];
-  EXPECT_EQ(kelStsNullPtr, kelsLShiftC_16u(nullptr, 16, v, 1));
-  const Kel32s s[] = {1};
-  Kel32s t[1];
-  EXPECT_EQ(kelStsBadShift, kelsLShiftC_32s(s, -1, t, 1));
-}
-
 // ---- Kernels against their twins on every target.
 
 template <class T, class Kernel, class Twin>

@@ -155,15 +155,9 @@ TEST(StatsFloat, ComplexAndDoubleSumsAndMeans) {
 using CL = std::complex<long double>;
 
 template <class T>
-CL at(const T* p, int i) {
-  if constexpr (std::is_same_v<T, Kel32fc> || std::is_same_v<T, Kel64fc>) return CL(p[i].re, p[i].im);
-  else return CL(static_cast<long double>(p[i]), 0);
-}
-
-template <class R>
-CL value(const R& r) {
-  if constexpr (std::is_same_v<R, Kel32fc> || std::is_same_v<R, Kel64fc>) return CL(r.re, r.im);
-  else return CL(r, 0);
+CL value(const T& x) {
+  if constexpr (std::is_class_v<T>) return CL(x.re, x.im);
+  else return CL(static_cast<long double>(x), 0);
 }
 
 template <class R>
@@ -182,8 +176,8 @@ void check_dot(const char* name, F fn, int n, unsigned seed) {
   CL ref = 0;
   long double mag = 0;
   for (int i = 0; i < n; ++i) {
-    ref += at(a, i) * at(b, i);
-    mag += std::abs(at(a, i)) * std::abs(at(b, i));
+    ref += value(a[i]) * value(b[i]);
+    mag += std::abs(value(a[i])) * std::abs(value(b[i]));
   }
   R r{};
   ASSERT_EQ(fn(a, b, n, &r), kelStsOk) << name;
@@ -224,7 +218,7 @@ void check_norm(const char* name, Kind kind, F1 one, F2 diff, int n, unsigned se
   for (const bool is_diff : {false, true}) {
     long double acc = 0;
     for (int i = 0; i < n; ++i) {
-      const long double m = std::abs(at(a, i) - (is_diff ? at(b, i) : CL(0)));
+      const long double m = std::abs(value(a[i]) - (is_diff ? value(b[i]) : CL(0)));
       if (kind == Kind::kInf) acc = std::max(acc, m);
       if (kind == Kind::kL1) acc += m;
       if (kind == Kind::kL2) acc += m * m;

@@ -36,6 +36,53 @@ void expect_close(double got, double want, double magnitude, std::size_t n, cons
   EXPECT_NEAR(got, want, tol) << what;
 }
 
+// Sums of one or two interleaved lanes; float sums carry the bound of
+// their own precision per term.
+template <class T>
+void expect_sums_match(const T* a, std::size_t n, const std::string& at) {
+  for (std::size_t stride : {1u, 2u}) {
+    T s[2] = {0, 0}, t[2] = {0, 0};
+    kk::sum_lanes(a, n * stride, stride, s);
+    kk::scalar::sum_lanes(a, n * stride, stride, t);
+    const double mag = std::is_same_v<T, float> ? 1.0 : static_cast<double>(n);
+    for (std::size_t c = 0; c < stride; ++c) {
+      EXPECT_NEAR(s[c], t[c], 4 * std::numeric_limits<T>::epsilon() * (n + 1) * mag) << at << " stride " << stride;
+    }
+  }
+}
+
+template <class T>
+void expect_dots_match(const T* a, const T* b, std::size_t n, const std::string& at) {
+  expect_close(kk::dot_rr(a, b, n), kk::scalar::dot_rr(a, b, n), n, n, at + " dot_rr");
+  double v[2], w[2];
+  kk::dot_rc(a, b, n, v);
+  kk::scalar::dot_rc(a, b, n, w);
+  for (int c = 0; c < 2; ++c) expect_close(v[c], w[c], n, n, at + " dot_rc");
+  kk::dot_cc(a, b, n, v);
+  kk::scalar::dot_cc(a, b, n, w);
+  for (int c = 0; c < 2; ++c) expect_close(v[c], w[c], 2 * n, n, at + " dot_cc");
+}
+
+// Every norm kind, real and complex, of one vector and of a difference.
+template <class T>
+void expect_norms_match(const T* a, const T* b, std::size_t n, const std::string& at) {
+  for (const auto kind : {kk::NormKind::kInf, kk::NormKind::kL1, kk::NormKind::kL2Sqr}) {
+    for (const bool cplx : {false, true}) {
+      for (const bool diff : {false, true}) {
+        const std::string what = at + " norm kind=" + std::to_string(static_cast<int>(kind)) +
+                                 " complex=" + std::to_string(cplx) + " diff=" + std::to_string(diff);
+        const double g = kk::norm(a, diff ? b : nullptr, n, kind, cplx);
+        const double r = kk::scalar::norm(a, diff ? b : nullptr, n, kind, cplx);
+        if (kind == kk::NormKind::kInf) {
+          EXPECT_EQ(g, r) << what;  // a maximum is exact
+        } else {
+          expect_close(g, r, 8.0 * n, n, what);
+        }
+      }
+    }
+  }
+}
+
 TEST(StatsKernels, FloatReductionsMatchTwins) {
   std::mt19937 rng(7);
   for_each_target([&](const std::string& target) {
@@ -49,64 +96,17 @@ TEST(StatsKernels, FloatReductionsMatchTwins) {
         const double* a64 = da.data() + off;
         const double* b64 = db.data() + off;
         const std::string at = target + " n=" + std::to_string(n) + " off=" + std::to_string(off);
-
-        for (std::size_t stride : {1u, 2u}) {
-          float s[2] = {0, 0}, t[2] = {0, 0};
-          kk::sum_lanes(a, n * stride, stride, s);
-          kk::scalar::sum_lanes(a, n * stride, stride, t);
-          for (std::size_t c = 0; c < stride; ++c) {
-            EXPECT_NEAR(s[c], t[c], 4 * std::numeric_limits<float>::epsilon() * (n + 1)) << at;
-          }
-          double s64[2] = {0, 0}, t64[2] = {0, 0};
-          kk::sum_lanes(a64, n * stride, stride, s64);
-          kk::scalar::sum_lanes(a64, n * stride, stride, t64);
-          for (std::size_t c = 0; c < stride; ++c) expect_close(s64[c], t64[c], n, n, at + " sum64");
-        }
+        expect_sums_match(a, n, at);
+        expect_sums_match(a64, n, at + " 64");
         double s1, s2, t1, t2;
         kk::sum_sq(a, n, &s1, &s2);
         kk::scalar::sum_sq(a, n, &t1, &t2);
         expect_close(s1, t1, n, n, at + " sum_sq s1");
         expect_close(s2, t2, n, n, at + " sum_sq s2");
-
-        expect_close(kk::dot_rr(a, b, n), kk::scalar::dot_rr(a, b, n), n, n, at + " dot_rr32");
-        expect_close(kk::dot_rr(a64, b64, n), kk::scalar::dot_rr(a64, b64, n), n, n, at + " dot_rr64");
-        double v[2], w[2];
-        kk::dot_rc(a, b, n, v);
-        kk::scalar::dot_rc(a, b, n, w);
-        expect_close(v[0], w[0], n, n, at + " dot_rc32 re");
-        expect_close(v[1], w[1], n, n, at + " dot_rc32 im");
-        kk::dot_rc(a64, b64, n, v);
-        kk::scalar::dot_rc(a64, b64, n, w);
-        expect_close(v[0], w[0], n, n, at + " dot_rc64 re");
-        expect_close(v[1], w[1], n, n, at + " dot_rc64 im");
-        kk::dot_cc(a, b, n, v);
-        kk::scalar::dot_cc(a, b, n, w);
-        expect_close(v[0], w[0], 2 * n, n, at + " dot_cc32 re");
-        expect_close(v[1], w[1], 2 * n, n, at + " dot_cc32 im");
-        kk::dot_cc(a64, b64, n, v);
-        kk::scalar::dot_cc(a64, b64, n, w);
-        expect_close(v[0], w[0], 2 * n, n, at + " dot_cc64 re");
-        expect_close(v[1], w[1], 2 * n, n, at + " dot_cc64 im");
-
-        for (const auto kind : {kk::NormKind::kInf, kk::NormKind::kL1, kk::NormKind::kL2Sqr}) {
-          for (const bool cplx : {false, true}) {
-            for (const bool diff : {false, true}) {
-              const std::string what = at + " norm kind=" + std::to_string(static_cast<int>(kind)) +
-                                       " complex=" + std::to_string(cplx) + " diff=" + std::to_string(diff);
-              const double g32 = kk::norm(a, diff ? b : nullptr, n, kind, cplx);
-              const double r32 = kk::scalar::norm(a, diff ? b : nullptr, n, kind, cplx);
-              const double g64 = kk::norm(a64, diff ? b64 : nullptr, n, kind, cplx);
-              const double r64 = kk::scalar::norm(a64, diff ? b64 : nullptr, n, kind, cplx);
-              if (kind == kk::NormKind::kInf) {
-                EXPECT_EQ(g32, r32) << what;  // a maximum is exact
-                EXPECT_EQ(g64, r64) << what;
-              } else {
-                expect_close(g32, r32, 8.0 * n, n, what);
-                expect_close(g64, r64, 8.0 * n, n, what);
-              }
-            }
-          }
-        }
+        expect_dots_match(a, b, n, at);
+        expect_dots_match(a64, b64, n, at + " 64");
+        expect_norms_match(a, b, n, at);
+        expect_norms_match(a64, b64, n, at + " 64");
       }
     }
   });
@@ -119,26 +119,8 @@ TEST(StatsKernels, LongNormsMatchTwins) {
     for (const std::size_t n : {std::size_t{1} << 18, (std::size_t{1} << 18) + 37, std::size_t{300001}}) {
       const auto a = random_vector<float>(2 * n, rng), b = random_vector<float>(2 * n, rng);
       const auto c = random_vector<double>(2 * n, rng), e = random_vector<double>(2 * n, rng);
-      for (const auto kind : {kk::NormKind::kInf, kk::NormKind::kL1, kk::NormKind::kL2Sqr}) {
-        for (const bool cplx : {false, true}) {
-          for (const bool diff : {false, true}) {
-            const std::string what = target + " n=" + std::to_string(n) + " kind=" +
-                                     std::to_string(static_cast<int>(kind)) + " c=" + std::to_string(cplx) +
-                                     " d=" + std::to_string(diff);
-            const double g = kk::norm(a.data(), diff ? b.data() : nullptr, n, kind, cplx);
-            const double r = kk::scalar::norm(a.data(), diff ? b.data() : nullptr, n, kind, cplx);
-            const double g64 = kk::norm(c.data(), diff ? e.data() : nullptr, n, kind, cplx);
-            const double r64 = kk::scalar::norm(c.data(), diff ? e.data() : nullptr, n, kind, cplx);
-            if (kind == kk::NormKind::kInf) {
-              EXPECT_EQ(g, r) << what;
-              EXPECT_EQ(g64, r64) << what;
-            } else {
-              expect_close(g, r, 8.0 * n, n, what);
-              expect_close(g64, r64, 8.0 * n, n, what);
-            }
-          }
-        }
-      }
+      expect_norms_match(a.data(), b.data(), n, target + " n=" + std::to_string(n));
+      expect_norms_match(c.data(), e.data(), n, target + " 64 n=" + std::to_string(n));
     }
   });
 }
@@ -200,71 +182,6 @@ TEST(StatsKernels, IntegerSumsMatchTwins) {
   });
 }
 
-// Extremes: exact agreement, with the extreme value planted twice at every
-// pair of positions of a vector-sized window so that the first occurrence
-// must win whatever lane it falls in.
-template <class T>
-void check_extremes(std::mt19937& rng) {
-  for_each_target([&](const std::string& target) {
-    for (const int len : sweep_lengths({64, 128})) {
-      const std::size_t n = static_cast<std::size_t>(len);
-      auto base = random_vector<T>(n + 8, rng);
-      // Keep room above and below so planted values are strict extremes.
-      for (auto& x : base) {
-        if constexpr (std::is_floating_point_v<T>) {
-          x = static_cast<T>(x * 0.5);
-        } else {
-          x = static_cast<T>(x / 2 + (std::numeric_limits<T>::min() == 0 ? std::numeric_limits<T>::max() / 4 : 0));
-        }
-      }
-      for (const std::size_t off : kOffsets) {
-        const T* p = base.data() + off;
-        T mn, mx, tmn, tmx;
-        kk::min_max(p, n, &mn, &mx);
-        kk::scalar::min_max(p, n, &tmn, &tmx);
-        ASSERT_EQ(mn, tmn) << target << " n=" << n;
-        ASSERT_EQ(mx, tmx) << target << " n=" << n;
-        T only = 0;
-        kk::min_max(p, n, nullptr, &only);
-        EXPECT_EQ(only, tmx);
-        kk::min_max(p, n, &only, nullptr);
-        EXPECT_EQ(only, tmn);
-      }
-      const std::size_t window = n < 70 ? n : 70;
-      for (std::size_t i = 0; i < window; i += (n > 40 ? 3 : 1)) {
-        for (std::size_t j = i; j < n; j += 17) {
-          for (const bool plant_max : {true, false}) {
-            std::vector<T> v(base.begin(), base.begin() + static_cast<std::ptrdiff_t>(n));
-            const T x = plant_max ? std::numeric_limits<T>::max() : std::numeric_limits<T>::lowest();
-            v[j] = x;
-            v[i] = x;
-            T mn, mx;
-            kk::min_max(v.data(), n, &mn, &mx);
-            ASSERT_EQ(plant_max ? mx : mn, x) << target;
-            ASSERT_EQ(kk::find_first(v.data(), n, x), i) << target << " n=" << n << " i=" << i << " j=" << j;
-          }
-        }
-      }
-      // Absent value.
-      const T absent = std::numeric_limits<T>::max();
-      std::vector<T> v(base.begin(), base.begin() + static_cast<std::ptrdiff_t>(n));
-      for (auto& x : v) x = x == absent ? T(0) : x;
-      EXPECT_EQ(kk::find_first(v.data(), n, absent), n) << target;
-    }
-  });
-}
-
-TEST(StatsKernels, ExtremesMatchTwinsAndFindFirstOccurrence) {
-  std::mt19937 rng(11);
-  check_extremes<std::uint8_t>(rng);
-  check_extremes<std::uint16_t>(rng);
-  check_extremes<std::int16_t>(rng);
-  check_extremes<std::uint32_t>(rng);
-  check_extremes<std::int32_t>(rng);
-  check_extremes<float>(rng);
-  check_extremes<double>(rng);
-}
-
 TEST(StatsKernels, ElementwiseKernelsMatchTwins) {
   std::mt19937 rng(5);
   for_each_target([&](const std::string& target) {
@@ -286,23 +203,20 @@ TEST(StatsKernels, ElementwiseKernelsMatchTwins) {
       EXPECT_EQ(m32[n - 1], 2147483648u);
 
       for (const bool take_max : {false, true}) {
-        auto d16 = random_vector<std::int16_t>(n, rng), e16 = d16;
-        kk::every(s16.data(), d16.data(), n, take_max);
-        kk::scalar::every(s16.data(), e16.data(), n, take_max);
-        EXPECT_EQ(d16, e16) << target;
-        auto d32 = random_vector<std::int32_t>(n, rng), e32 = d32;
-        kk::every(s32.data(), d32.data(), n, take_max);
-        kk::scalar::every(s32.data(), e32.data(), n, take_max);
-        EXPECT_EQ(d32, e32) << target;
+        auto every = [&](const auto* src, auto dst) {
+          auto twin = dst;
+          kk::every(src, dst.data(), n, take_max);
+          kk::scalar::every(src, twin.data(), n, take_max);
+          for (std::size_t i = 0; i < n; ++i) {  // NaN positions must agree too
+            EXPECT_TRUE(dst[i] == twin[i] || (dst[i] != dst[i] && twin[i] != twin[i])) << target << " i=" << i;
+          }
+        };
+        every(s16.data(), random_vector<std::int16_t>(n, rng));
+        every(s32.data(), random_vector<std::int32_t>(n, rng));
         auto sf = random_vector<float>(n, rng), df = random_vector<float>(n, rng);
         sf[n / 2] = std::numeric_limits<float>::quiet_NaN();
         df[n / 3] = std::numeric_limits<float>::quiet_NaN();
-        auto ef = df;
-        kk::every(sf.data(), df.data(), n, take_max);
-        kk::scalar::every(sf.data(), ef.data(), n, take_max);
-        for (std::size_t i = 0; i < n; ++i) {
-          EXPECT_TRUE(df[i] == ef[i] || (std::isnan(df[i]) && std::isnan(ef[i]))) << target << " i=" << i;
-        }
+        every(sf.data(), df);
       }
 
       auto c = random_vector<std::int32_t>(n, rng);

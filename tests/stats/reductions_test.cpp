@@ -17,7 +17,16 @@ namespace {
 constexpr int kScaleFactors[] = {-40, -31, -20, -15, -14, -3, -1, 0, 1, 2, 3, 7, 15, 16, 17, 31, 32, 40, 63, 100};
 constexpr int kLengths[] = {1, 2, 3, 7, 16, 33, 100, 1000};
 
-TEST(StatsIntegerReductions, SumsFollowTheScaleRule) {
+// Mean: exact rational rounding model of S * 2^-sf / n.
+template <class P>
+P mean_model(std::int64_t s, std::int64_t n, int sf) {
+  if (sizeof(P) == 2 && sf >= 16) return 0;
+  if (sizeof(P) == 2 && sf < -14) return s > 0 ? std::numeric_limits<P>::max() : (s < 0 ? std::numeric_limits<P>::min() : 0);
+  if (sf >= 0) return saturate_to<P>(div_round_even(s, n << sf));
+  return saturate_to<P>(div_round_even(s * (std::int64_t{1} << -sf), n));
+}
+
+TEST(StatsIntegerReductions, SumsAndMeansFollowTheScaleRule) {
   for (const int n : kLengths) {
     const auto a16 = random_data<Kel16s>(2 * n, 100 + n);
     const auto a32 = random_data<Kel32s>(n, 200 + n);
@@ -48,67 +57,11 @@ TEST(StatsIntegerReductions, SumsFollowTheScaleRule) {
       if (std::abs(s32) < (std::int64_t{1} << 50)) {
         EXPECT_EQ(r32, scale_model<Kel32s>(s32, sf)) << n << " " << sf;
       }
-    }
-  }
-  // Ties to even, saturation, very negative scale factors.
-  const Kel16s ties[4] = {3, 5, -3, -5};
-  const Kel32s want[4] = {2, 2, -2, -2};
-  for (int i = 0; i < 4; ++i) {
-    Kel32s r = 0;
-    kelsSum_16s32s_Sfs(&ties[i], 1, &r, 1);
-    EXPECT_EQ(r, want[i]);
-  }
-  const std::vector<Kel16s> ones(40000, 1);
-  Kel16s r16 = 0;
-  EXPECT_EQ(kelsSum_16s_Sfs(ones.data(), 40000, &r16, 0), kelStsOk);
-  EXPECT_EQ(r16, 32767);
-  Kel32s r32 = 0;
-  kelsSum_16s32s_Sfs(ones.data(), 40000, &r32, 0);
-  EXPECT_EQ(r32, 40000);
-  kelsSum_16s32s_Sfs(ones.data(), 1, &r32, -31);
-  EXPECT_EQ(r32, 2147483647);
-  const Kel16s neg = -1;
-  kelsSum_16s32s_Sfs(&neg, 1, &r32, -31);
-  EXPECT_EQ(r32, -2147483647 - 1);
-  kelsSum_16s32s_Sfs(&neg, 1, &r32, -1000);
-  EXPECT_EQ(r32, -2147483647 - 1);
-  kelsSum_16s32s_Sfs(&neg, 1, &r32, 1000);
-  EXPECT_EQ(r32, 0);
-  // The largest 32-bit sum: 2^31 - 1 elements are not practical; 2^16 of
-  // the extreme values check the 64-bit accumulation.
-  const std::vector<Kel32s> big(65536, std::numeric_limits<Kel32s>::min());
-  kelsSum_32s_Sfs(big.data(), 65536, &r32, 16);
-  EXPECT_EQ(r32, std::numeric_limits<Kel32s>::min());
-  kelsSum_32s_Sfs(big.data(), 65536, &r32, 17);
-  EXPECT_EQ(r32, std::numeric_limits<Kel32s>::min() / 2);
-}
-
-// Mean: exact rational rounding model of S * 2^-sf / n.
-template <class P>
-P mean_model(std::int64_t s, std::int64_t n, int sf) {
-  if (sizeof(P) == 2 && sf >= 16) return 0;
-  if (sizeof(P) == 2 && sf < -14) return s > 0 ? std::numeric_limits<P>::max() : (s < 0 ? std::numeric_limits<P>::min() : 0);
-  if (sf >= 0) return saturate_to<P>(div_round_even(s, n << sf));
-  return saturate_to<P>(div_round_even(s * (std::int64_t{1} << -sf), n));
-}
-
-TEST(StatsIntegerReductions, MeansRoundExactlyAndFollowTheBranches) {
-  for (const int n : kLengths) {
-    const auto a16 = random_data<Kel16s>(2 * n, 300 + n);
-    auto a32 = random_data<Kel32s>(n, 400 + n);
-    std::int64_t s16 = 0, re = 0, im = 0, s32 = 0;
-    for (int i = 0; i < n; ++i) {
-      s16 += a16[i];
-      re += a16[2 * i];
-      im += a16[2 * i + 1];
-      s32 += a32[i];
-    }
-    for (const int sf : kScaleFactors) {
       Kel16s m16 = 0;
       ASSERT_EQ(kelsMean_16s_Sfs(a16.data(), n, &m16, sf), kelStsOk);
       EXPECT_EQ(m16, mean_model<Kel16s>(s16, n, sf)) << n << " " << sf;
       Kel16sc mc{};
-      ASSERT_EQ(kelsMean_16sc_Sfs(reinterpret_cast<const Kel16sc*>(a16.data()), n, &mc, sf), kelStsOk);
+      ASSERT_EQ(kelsMean_16sc_Sfs(c16, n, &mc, sf), kelStsOk);
       EXPECT_EQ(mc.re, mean_model<Kel16s>(re, n, sf));
       EXPECT_EQ(mc.im, mean_model<Kel16s>(im, n, sf));
       if (sf >= -12 && sf <= 20) {
@@ -118,31 +71,38 @@ TEST(StatsIntegerReductions, MeansRoundExactlyAndFollowTheBranches) {
       }
     }
   }
-  // Ties: the mean of {1, 2} is 1.5 -> 2, of {2, 3} 2.5 -> 2, of {-2,-3} -> -2.
-  const Kel16s t1[2] = {1, 2}, t2[2] = {2, 3}, t3[2] = {-2, -3};
-  Kel16s m = 0;
-  kelsMean_16s_Sfs(t1, 2, &m, 0);
-  EXPECT_EQ(m, 2);
-  kelsMean_16s_Sfs(t2, 2, &m, 0);
-  EXPECT_EQ(m, 2);
-  kelsMean_16s_Sfs(t3, 2, &m, 0);
-  EXPECT_EQ(m, -2);
-  // scaleFactor 16 gives 0 for any data; -15 saturates by the sign of the
-  // sum even when the scaled mean would fit.
-  const Kel16s big[2] = {32767, 32767};
-  kelsMean_16s_Sfs(big, 2, &m, 16);
-  EXPECT_EQ(m, 0);
-  const Kel16s small[4] = {1, 0, 0, 0};
-  kelsMean_16s_Sfs(small, 4, &m, -15);
-  EXPECT_EQ(m, 32767);
-  const Kel16s smalln[4] = {-1, 0, 0, 0};
-  kelsMean_16s_Sfs(smalln, 4, &m, -15);
-  EXPECT_EQ(m, -32768);
-  const Kel16s zero[4] = {1, -1, 0, 0};
-  kelsMean_16s_Sfs(zero, 4, &m, -15);
-  EXPECT_EQ(m, 0);
-  kelsMean_16s_Sfs(small, 4, &m, -14);
-  EXPECT_EQ(m, 4096);
+  // Ties to even, saturation, extreme scale factors: {value, count, sf, sum}.
+  struct Case { Kel16s x; int n, sf; Kel32s want; };
+  for (const Case c : {Case{3, 1, 1, 2}, Case{5, 1, 1, 2}, Case{-3, 1, 1, -2}, Case{-5, 1, 1, -2},
+                       Case{1, 40000, 0, 40000}, Case{1, 1, -31, INT32_MAX}, Case{-1, 1, -31, INT32_MIN},
+                       Case{-1, 1, -1000, INT32_MIN}, Case{-1, 1, 1000, 0}}) {
+    const std::vector<Kel16s> v(c.n, c.x);
+    Kel32s r = 0;
+    ASSERT_EQ(kelsSum_16s32s_Sfs(v.data(), c.n, &r, c.sf), kelStsOk);
+    EXPECT_EQ(r, c.want) << c.x << " x " << c.n << " sf " << c.sf;
+  }
+  const std::vector<Kel16s> ones(40000, 1);
+  Kel16s r16 = 0;
+  EXPECT_EQ(kelsSum_16s_Sfs(ones.data(), 40000, &r16, 0), kelStsOk);
+  EXPECT_EQ(r16, 32767);
+  // 2^16 extreme 32-bit values check the 64-bit accumulation.
+  const std::vector<Kel32s> big(65536, std::numeric_limits<Kel32s>::min());
+  Kel32s r32 = 0;
+  kelsSum_32s_Sfs(big.data(), 65536, &r32, 16);
+  EXPECT_EQ(r32, std::numeric_limits<Kel32s>::min());
+  kelsSum_32s_Sfs(big.data(), 65536, &r32, 17);
+  EXPECT_EQ(r32, std::numeric_limits<Kel32s>::min() / 2);
+  // Mean ties ({1, 2} -> 1.5 -> 2, {2, 3} -> 2); scaleFactor 16 gives 0 for any
+  // data; -15 saturates by the sign of the sum even when the scaled mean
+  // would fit.
+  struct MeanCase { std::vector<Kel16s> v; int sf; Kel16s want; };
+  for (const MeanCase& c : {MeanCase{{1, 2}, 0, 2}, MeanCase{{2, 3}, 0, 2}, MeanCase{{-2, -3}, 0, -2}, MeanCase{{32767, 32767}, 16, 0},
+                            MeanCase{{1, 0, 0, 0}, -15, 32767}, MeanCase{{-1, 0, 0, 0}, -15, -32768},
+                            MeanCase{{1, -1, 0, 0}, -15, 0}, MeanCase{{1, 0, 0, 0}, -14, 4096}}) {
+    Kel16s m = 0;
+    ASSERT_EQ(kelsMean_16s_Sfs(c.v.data(), static_cast<int>(c.v.size()), &m, c.sf), kelStsOk);
+    EXPECT_EQ(m, c.want) << c.v[0] << " sf " << c.sf;
+  }
 }
 
 // StdDev of 16-bit data: checks that the result r is the correctly rounded
@@ -238,16 +198,14 @@ TEST(StatsIntegerReductions, IntegerNormsFollowTheirRules) {
       }
     }
   }
-  const Kel16s m[1] = {-32768}, three[1] = {3};
-  Kel32s r = 0;
-  kelsNorm_Inf_16s32s_Sfs(m, 1, &r, 0);
-  EXPECT_EQ(r, 32768);
-  kelsNorm_Inf_16s32s_Sfs(three, 1, &r, 1);
-  EXPECT_EQ(r, 1);  // truncation, not rounding
-  kelsNorm_Inf_16s32s_Sfs(m, 1, &r, -16);
-  EXPECT_EQ(r, 2147483647);
-  kelsNorm_Inf_16s32s_Sfs(three, 1, &r, -100);  // clamped at -31: 3 << 31 saturates
-  EXPECT_EQ(r, 2147483647);
+  // Magnitude of -32768, truncation (not rounding), saturation, and the
+  // scale factor clamped at -31.
+  struct Case { Kel16s x; int sf; Kel32s want; };
+  for (const Case c : {Case{-32768, 0, 32768}, Case{3, 1, 1}, Case{-32768, -16, INT32_MAX}, Case{3, -100, INT32_MAX}}) {
+    Kel32s r = 0;
+    kelsNorm_Inf_16s32s_Sfs(&c.x, 1, &r, c.sf);
+    EXPECT_EQ(r, c.want) << c.x << " sf " << c.sf;
+  }
   // The largest squared difference sum, beyond 2^63 in the exact domain of
   // 64-bit unsigned: 2^31 elements are impractical; 65535^2 * 2^20 checks the
   // block and 64-bit accumulation with sf = 40 exactly.
@@ -255,6 +213,7 @@ TEST(StatsIntegerReductions, IntegerNormsFollowTheirRules) {
   Kel64s r64 = 0;
   kelsNormDiff_L2Sqr_16s64s_Sfs(hi.data(), lo.data(), 1 << 20, &r64, 40);
   EXPECT_EQ(r64, 4096);  // 65535^2 * 2^20 / 2^40 = 4095.875 -> 4096
+  Kel32s r = 0;
   kelsNormDiff_L1_16s32s_Sfs(hi.data(), lo.data(), 1 << 20, &r, 0);
   EXPECT_EQ(r, 2147483647);  // 65535 * 2^20 saturates
   kelsNormDiff_L1_16s64s_Sfs(hi.data(), lo.data(), 1 << 20, &r64, 0);
@@ -263,30 +222,31 @@ TEST(StatsIntegerReductions, IntegerNormsFollowTheirRules) {
 
 // ---- Dot products of integer data.
 
-template <class A, class B>
-void exact_dot(const A* a, const B* b, int n, long double* re, long double* im) {
-  // Products and partial sums stay below 2^63 for the data used here, and
-  // long double holds 64-bit integers exactly.
-  std::int64_t r = 0, m = 0;
+template <class T>
+std::int64_t part(const T& x, bool imag) {
+  if constexpr (std::is_class_v<T>) return imag ? x.im : x.re;
+  else return imag ? 0 : x;
+}
+
+// Runs a dot product member and checks each part of its result with
+// expect(got, exact part, what). The exact sums stay below 2^63 for the
+// data used here.
+template <class A, class B, class R, class E, class... S>
+void expect_dot(const char* what, KelStatus (*fn)(const A*, const B*, int, R*, S...), const A* a, const B* b, int n,
+                E expect, [[maybe_unused]] int sf = 0) {
+  std::int64_t re = 0, im = 0;
   for (int i = 0; i < n; ++i) {
-    std::int64_t ar, ai = 0, br, bi = 0;
-    if constexpr (std::is_class_v<A>) {
-      ar = a[i].re;
-      ai = a[i].im;
-    } else {
-      ar = a[i];
-    }
-    if constexpr (std::is_class_v<B>) {
-      br = b[i].re;
-      bi = b[i].im;
-    } else {
-      br = b[i];
-    }
-    r += ar * br - ai * bi;
-    m += ar * bi + ai * br;
+    re += part(a[i], false) * part(b[i], false) - part(a[i], true) * part(b[i], true);
+    im += part(a[i], false) * part(b[i], true) + part(a[i], true) * part(b[i], false);
   }
-  *re = static_cast<long double>(r);
-  *im = static_cast<long double>(m);
+  R r{};
+  ASSERT_EQ(fn(a, b, n, &r, S(sf)...), kelStsOk) << what;
+  if constexpr (std::is_class_v<R>) {
+    expect(r.re, re, what);
+    expect(r.im, im, what);
+  } else {
+    expect(r, re, what);
+  }
 }
 
 TEST(StatsIntegerReductions, DotProductsAreExactThenScaledWithClamps) {
@@ -300,77 +260,36 @@ TEST(StatsIntegerReductions, DotProductsAreExactThenScaledWithClamps) {
     const auto* c2 = reinterpret_cast<const Kel16sc*>(s2.data());
     const auto* wc1 = reinterpret_cast<const Kel32sc*>(w1.data());
     const auto* wc2 = reinterpret_cast<const Kel32sc*>(w2.data());
-    long double rr, ri, cr, ci, mr, mi, w_rr, w_ri, w_cr, w_ci, w_mr, w_mi, x_rr, x_ri;
-    exact_dot(s1.data(), s2.data(), n, &rr, &ri);
-    exact_dot(c1, c2, n, &cr, &ci);
-    exact_dot(s1.data(), c2, n, &mr, &mi);
-    exact_dot(w1.data(), w2.data(), n, &w_rr, &w_ri);
-    exact_dot(wc1, wc2, n, &w_cr, &w_ci);
-    exact_dot(w1.data(), wc2, n, &w_mr, &w_mi);
-    exact_dot(s1.data(), w2.data(), n, &x_rr, &x_ri);
-    auto i64 = [](long double v) { return static_cast<std::int64_t>(v); };
-
-    Kel64s d64 = 0;
-    Kel64sc d64c{};
-    ASSERT_EQ(kelsDotProd_16s64s(s1.data(), s2.data(), n, &d64), kelStsOk);
-    EXPECT_EQ(d64, i64(rr));
-    ASSERT_EQ(kelsDotProd_16sc64sc(c1, c2, n, &d64c), kelStsOk);
-    EXPECT_EQ(d64c.re, i64(cr));
-    EXPECT_EQ(d64c.im, i64(ci));
-    ASSERT_EQ(kelsDotProd_16s16sc64sc(s1.data(), c2, n, &d64c), kelStsOk);
-    EXPECT_EQ(d64c.re, i64(mr));
-    EXPECT_EQ(d64c.im, i64(mi));
-    Kel32f f = 0;
-    Kel32fc fc{};
-    ASSERT_EQ(kelsDotProd_16s32f(s1.data(), s2.data(), n, &f), kelStsOk);
-    EXPECT_EQ(f, static_cast<float>(rr));
-    ASSERT_EQ(kelsDotProd_16sc32fc(c1, c2, n, &fc), kelStsOk);
-    EXPECT_EQ(fc.re, static_cast<float>(cr));
-    EXPECT_EQ(fc.im, static_cast<float>(ci));
-    ASSERT_EQ(kelsDotProd_16s16sc32fc(s1.data(), c2, n, &fc), kelStsOk);
-    EXPECT_EQ(fc.re, static_cast<float>(mr));
-    EXPECT_EQ(fc.im, static_cast<float>(mi));
-
+    // Unscaled results: exact 64-bit sums, or the exact sum rounded once.
+    auto exact = [n](auto got, std::int64_t v, const char* what) { EXPECT_EQ(got, v) << what << " n=" << n; };
+    auto rounded = [n](auto got, std::int64_t v, const char* what) {
+      EXPECT_EQ(got, static_cast<decltype(got)>(static_cast<long double>(v))) << what << " n=" << n;
+    };
+    expect_dot("16s64s", kelsDotProd_16s64s, s1.data(), s2.data(), n, exact);
+    expect_dot("16sc64sc", kelsDotProd_16sc64sc, c1, c2, n, exact);
+    expect_dot("16s16sc64sc", kelsDotProd_16s16sc64sc, s1.data(), c2, n, exact);
+    expect_dot("16s32f", kelsDotProd_16s32f, s1.data(), s2.data(), n, rounded);
+    expect_dot("16sc32fc", kelsDotProd_16sc32fc, c1, c2, n, rounded);
+    expect_dot("16s16sc32fc", kelsDotProd_16s16sc32fc, s1.data(), c2, n, rounded);
     for (const int sf : kScaleFactors) {
-      // The rule with the scale factor clamped to -31..31 first.
+      // The rule with the scale factor clamped to -31..31 first; the 32-bit
+      // results are checked where the model's sums are below 2^50.
       const int c = sf > 31 ? 31 : (sf < -31 ? -31 : sf);
-      auto model16 = [&](long double v) { return scale_model<Kel16s>(i64(v), c); };
-      auto model32 = [&](long double v) { return scale_model<Kel32s>(i64(v), c); };
-      Kel16s d16 = 0;
-      Kel16sc d16c{};
-      Kel32s d32 = 0;
-      Kel32sc d32c{};
-      ASSERT_EQ(kelsDotProd_16s_Sfs(s1.data(), s2.data(), n, &d16, sf), kelStsOk);
-      EXPECT_EQ(d16, model16(rr)) << n << " " << sf;
-      ASSERT_EQ(kelsDotProd_16sc_Sfs(c1, c2, n, &d16c, sf), kelStsOk);
-      EXPECT_EQ(d16c.re, model16(cr));
-      EXPECT_EQ(d16c.im, model16(ci));
-      ASSERT_EQ(kelsDotProd_16s16sc_Sfs(s1.data(), c2, n, &d16c, sf), kelStsOk);
-      EXPECT_EQ(d16c.re, model16(mr));
-      EXPECT_EQ(d16c.im, model16(mi));
-      auto check32 = [&](Kel32s got, long double v, const char* what) {
-        if (std::abs(i64(v)) < (std::int64_t{1} << 50)) {
-          EXPECT_EQ(got, model32(v)) << what << " n=" << n << " sf=" << sf;
+      auto scaled = [n, sf, c](auto got, std::int64_t v, const char* what) {
+        if (sizeof(got) == 2 || std::abs(v) < (std::int64_t{1} << 50)) {
+          EXPECT_EQ(got, scale_model<decltype(got)>(v, c)) << what << " n=" << n << " sf=" << sf;
         }
       };
-      ASSERT_EQ(kelsDotProd_16s32s_Sfs(s1.data(), s2.data(), n, &d32, sf), kelStsOk);
-      check32(d32, rr, "16s32s");
-      ASSERT_EQ(kelsDotProd_16sc32sc_Sfs(c1, c2, n, &d32c, sf), kelStsOk);
-      check32(d32c.re, cr, "16sc32sc re");
-      check32(d32c.im, ci, "16sc32sc im");
-      ASSERT_EQ(kelsDotProd_16s16sc32sc_Sfs(s1.data(), c2, n, &d32c, sf), kelStsOk);
-      check32(d32c.re, mr, "16s16sc32sc re");
-      check32(d32c.im, mi, "16s16sc32sc im");
-      ASSERT_EQ(kelsDotProd_16s32s32s_Sfs(s1.data(), w2.data(), n, &d32, sf), kelStsOk);
-      check32(d32, x_rr, "16s32s32s");
-      ASSERT_EQ(kelsDotProd_32s_Sfs(w1.data(), w2.data(), n, &d32, sf), kelStsOk);
-      check32(d32, w_rr, "32s");
-      ASSERT_EQ(kelsDotProd_32sc_Sfs(wc1, wc2, n, &d32c, sf), kelStsOk);
-      check32(d32c.re, w_cr, "32sc re");
-      check32(d32c.im, w_ci, "32sc im");
-      ASSERT_EQ(kelsDotProd_32s32sc_Sfs(w1.data(), wc2, n, &d32c, sf), kelStsOk);
-      check32(d32c.re, w_mr, "32s32sc re");
-      check32(d32c.im, w_mi, "32s32sc im");
+      expect_dot("16s", kelsDotProd_16s_Sfs, s1.data(), s2.data(), n, scaled, sf);
+      expect_dot("16sc", kelsDotProd_16sc_Sfs, c1, c2, n, scaled, sf);
+      expect_dot("16s16sc", kelsDotProd_16s16sc_Sfs, s1.data(), c2, n, scaled, sf);
+      expect_dot("16s32s", kelsDotProd_16s32s_Sfs, s1.data(), s2.data(), n, scaled, sf);
+      expect_dot("16sc32sc", kelsDotProd_16sc32sc_Sfs, c1, c2, n, scaled, sf);
+      expect_dot("16s16sc32sc", kelsDotProd_16s16sc32sc_Sfs, s1.data(), c2, n, scaled, sf);
+      expect_dot("16s32s32s", kelsDotProd_16s32s32s_Sfs, s1.data(), w2.data(), n, scaled, sf);
+      expect_dot("32s", kelsDotProd_32s_Sfs, w1.data(), w2.data(), n, scaled, sf);
+      expect_dot("32sc", kelsDotProd_32sc_Sfs, wc1, wc2, n, scaled, sf);
+      expect_dot("32s32sc", kelsDotProd_32s32sc_Sfs, w1.data(), wc2, n, scaled, sf);
     }
   }
 }
@@ -399,22 +318,14 @@ TEST(StatsIntegerReductions, WideDotProductsDoNotWrap) {
   ASSERT_EQ(kelsDotProd_32sc_Sfs(z, z, 4, &rc, 31), kelStsOk);
   EXPECT_EQ(rc.re, 0);
   EXPECT_EQ(rc.im, 2147483647);
-  // A negative scale factor saturates before shifting.
-  const Kel16s one = 1, mone = -1;
-  Kel16s r16 = 0;
-  kelsDotProd_16s_Sfs(&one, &one, 1, &r16, -14);
-  EXPECT_EQ(r16, 16384);
-  kelsDotProd_16s_Sfs(&one, &one, 1, &r16, -15);
-  EXPECT_EQ(r16, 32767);
-  kelsDotProd_16s_Sfs(&one, &mone, 1, &r16, -15);
-  EXPECT_EQ(r16, -32768);
-  kelsDotProd_16s_Sfs(&one, &mone, 1, &r16, -1000);
-  EXPECT_EQ(r16, -32768);
-  const Kel16s three = 3;
-  kelsDotProd_16s_Sfs(&three, &one, 1, &r16, 1);
-  EXPECT_EQ(r16, 2);
-  kelsDotProd_16s_Sfs(&three, &mone, 1, &r16, 1);
-  EXPECT_EQ(r16, -2);
+  // A negative scale factor saturates before shifting; ties to even.
+  struct Case { Kel16s a, b; int sf; Kel16s want; };
+  for (const Case c : {Case{1, 1, -14, 16384}, Case{1, 1, -15, 32767}, Case{1, -1, -15, -32768},
+                       Case{1, -1, -1000, -32768}, Case{3, 1, 1, 2}, Case{3, -1, 1, -2}}) {
+    Kel16s r16 = 0;
+    kelsDotProd_16s_Sfs(&c.a, &c.b, 1, &r16, c.sf);
+    EXPECT_EQ(r16, c.want) << c.a << " * " << c.b << " sf " << c.sf;
+  }
 }
 
 #ifdef __SIZEOF_INT128__
