@@ -33,6 +33,9 @@ const Header<T>* real_header(const void* record) {
 // no work area, the spectrum kept in registers between the arithmetic and
 // the layout.
 constexpr int kStraightMax = 5;
+// The half-length complex transforms start at order 4, the smallest with
+// tables in the record.
+static_assert(kStraightMax >= 4, "orders up to 4 have no half-length transform");
 
 // Index of the real part of X[1] (X[k] follows in pairs up to k = N/2 - 1),
 // and of X[N/2] (N >= 2).
