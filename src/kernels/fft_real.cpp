@@ -29,7 +29,9 @@ namespace hn = hwy::HWY_NAMESPACE;
 #if HWY_TARGET == HWY_SSE4
 HWY_INLINE __m128 AddSubRaw(__m128 x, __m128 y) { return _mm_addsub_ps(x, y); }
 HWY_INLINE __m128d AddSubRaw(__m128d x, __m128d y) { return _mm_addsub_pd(x, y); }
-HWY_INLINE __m128 SubAddRaw(__m128 x, __m128 y) { return _mm_addsub_ps(x, _mm_xor_ps(y, _mm_set1_ps(-0.0f))); }
+HWY_INLINE __m128 SubAddRaw(__m128 x, __m128 y) {
+  return _mm_addsub_ps(x, _mm_xor_ps(y, _mm_set1_ps(-0.0f)));
+}
 HWY_INLINE __m128d SubAddRaw(__m128d x, __m128d y) {
   return _mm_addsub_pd(x, _mm_xor_pd(y, _mm_set1_pd(-0.0)));
 }

@@ -136,10 +136,10 @@ bool half_is_leaf(int order, const T* work) {
   return order - 1 <= leaf_max(sizeof(T) == 8) && work != nullptr;
 }
 
-// Forward transform of checked arguments; src and dst may be equal. From
-// order kStraightMax + 1 the half-length spectrum Z is computed into dst and recombined in
-// place: X[k] (0 < k < N/2) lands where Z[k] was, which is its place in Perm
-// and CCS. Pack, one value lower, takes Z from the work area when the
+// Forward transform of checked arguments; src and dst may be equal. Above
+// the straight-line orders the half-length spectrum Z is computed into dst
+// and recombined in place: X[k] (0 < k < N/2) lands where Z[k] was, which
+// is its place in Perm and CCS. Pack, one value lower, takes Z from the work area when the
 // half-length transform is a single leaf, and otherwise moves the block down
 // by one value.
 template <class T>
@@ -172,9 +172,9 @@ void forward_run(const Header<T>* h, const T* src, T* dst, T* work, Layout lay) 
   }
 }
 
-// Inverse transform of checked arguments; src and dst may be equal. From
-// order kStraightMax + 1 the recombination reads X from src in its layout and writes Z
-// (scaled) into the work area when the half-length transform is a single
+// Inverse transform of checked arguments; src and dst may be equal. Above
+// the straight-line orders the recombination reads X from src in its layout
+// and writes Z (scaled) into the work area when the half-length transform is a single
 // leaf, so that the complex inverse runs out of place into dst with its
 // permutation fused into the first pass; larger orders write Z into dst
 // and transform it in place.
