@@ -22,6 +22,48 @@ namespace hn = hwy::HWY_NAMESPACE;
 
 #if HWY_TARGET != HWY_SCALAR
 
+// Alternating sums: AddSub gives x - y in the even lanes and x + y in the
+// odd lanes, SubAdd the opposite. SSE4 has the first as one instruction;
+// the targets with fused forms compute x * 1 -/+ y, whose product by one is
+// exact, so the single rounding is that of the plain sum either way.
+#if HWY_TARGET == HWY_SSE4
+HWY_INLINE __m128 AddSubRaw(__m128 x, __m128 y) { return _mm_addsub_ps(x, y); }
+HWY_INLINE __m128d AddSubRaw(__m128d x, __m128d y) { return _mm_addsub_pd(x, y); }
+HWY_INLINE __m128 SubAddRaw(__m128 x, __m128 y) {
+  return _mm_addsub_ps(x, _mm_xor_ps(y, _mm_set1_ps(-0.0f)));
+}
+HWY_INLINE __m128d SubAddRaw(__m128d x, __m128d y) {
+  return _mm_addsub_pd(x, _mm_xor_pd(y, _mm_set1_pd(-0.0)));
+}
+#else
+HWY_INLINE __m128 AddSubRaw(__m128 x, __m128 y) { return _mm_fmaddsub_ps(x, _mm_set1_ps(1.0f), y); }
+HWY_INLINE __m128d AddSubRaw(__m128d x, __m128d y) { return _mm_fmaddsub_pd(x, _mm_set1_pd(1.0), y); }
+HWY_INLINE __m256 AddSubRaw(__m256 x, __m256 y) { return _mm256_fmaddsub_ps(x, _mm256_set1_ps(1.0f), y); }
+HWY_INLINE __m256d AddSubRaw(__m256d x, __m256d y) { return _mm256_fmaddsub_pd(x, _mm256_set1_pd(1.0), y); }
+HWY_INLINE __m128 SubAddRaw(__m128 x, __m128 y) { return _mm_fmsubadd_ps(x, _mm_set1_ps(1.0f), y); }
+HWY_INLINE __m128d SubAddRaw(__m128d x, __m128d y) { return _mm_fmsubadd_pd(x, _mm_set1_pd(1.0), y); }
+HWY_INLINE __m256 SubAddRaw(__m256 x, __m256 y) { return _mm256_fmsubadd_ps(x, _mm256_set1_ps(1.0f), y); }
+HWY_INLINE __m256d SubAddRaw(__m256d x, __m256d y) { return _mm256_fmsubadd_pd(x, _mm256_set1_pd(1.0), y); }
+#if HWY_TARGET <= HWY_AVX3
+HWY_INLINE __m512 AddSubRaw(__m512 x, __m512 y) { return _mm512_fmaddsub_ps(x, _mm512_set1_ps(1.0f), y); }
+HWY_INLINE __m512d AddSubRaw(__m512d x, __m512d y) { return _mm512_fmaddsub_pd(x, _mm512_set1_pd(1.0), y); }
+HWY_INLINE __m512 SubAddRaw(__m512 x, __m512 y) { return _mm512_fmsubadd_ps(x, _mm512_set1_ps(1.0f), y); }
+HWY_INLINE __m512d SubAddRaw(__m512d x, __m512d y) { return _mm512_fmsubadd_pd(x, _mm512_set1_pd(1.0), y); }
+#endif
+#endif
+template <class V>
+HWY_INLINE V AddSub(V x, V y) {
+  V r;
+  r.raw = AddSubRaw(x.raw, y.raw);
+  return r;
+}
+template <class V>
+HWY_INLINE V SubAdd(V x, V y) {
+  V r;
+  r.raw = SubAddRaw(x.raw, y.raw);
+  return r;
+}
+
 // Reverses the order of the complex values (lane pairs) of v.
 template <class D>
 HWY_INLINE hn::Vec<D> ReverseCx(D d, hn::Vec<D> v) {
@@ -66,7 +108,6 @@ HWY_INLINE size_t RecombineVectors(D d, const T* in, T* out, size_t m, size_t k,
   const size_t L = hn::Lanes(d) / 2;
   const auto vhs = hn::Set(d, hs), vs = hn::Set(d, s);
   const auto one = hn::Set(d, T(1)), neg = hn::Set(d, T(-1));
-  const auto sgn = hn::OddEven(one, neg);  // -1 on the real lanes
   const auto cj = hn::OddEven(neg, one);   // -1 on the imaginary lanes
   for (; k + L <= m / 2; k += L) {
     const auto a = hn::LoadU(d, in + 2 * (k - 1));
@@ -77,7 +118,7 @@ HWY_INLINE size_t RecombineVectors(D d, const T* in, T* out, size_t m, size_t k,
     if (!UNIT) f = hn::Mul(f, vs);
     const auto x = hn::Mul(LoadDupRe(d, u + 2 * k), f);
     const auto y = hn::Mul(LoadDupIm(d, u + 2 * k), hn::Reverse2(d, f));
-    const auto t = hn::Add(x, hn::Mul(sgn, y));
+    const auto t = AddSub(x, y);  // (x - y, x + y)
     hn::StoreU(hn::Add(e, t), d, out + 2 * (k - 1));
     hn::StoreU(ReverseCx(d, hn::Mul(hn::Sub(e, t), cj)), d, out + 2 * (m - k - L));
   }
@@ -107,14 +148,18 @@ void RecombineT(const T* in, T* out, size_t m, const T* u, T mid, T hs, T s) {
 }
 
 // Complex products of the interleaved pairs at a and b: with x = Re(a) b and
-// y = Im(a) times b swapped, a b = x + (-1, +1) y and a conj(b) = y +
-// (+1, -1) x.
+// y = Im(a) times b swapped, a b = (x - y, x + y) and a conj(b) = (y + x,
+// y - x) on (even, odd) lanes, the twin's sums exactly.
 template <bool CONJ, class D>
-HWY_INLINE hn::Vec<D> MulCx(D d, const hn::TFromD<D>* a, const hn::TFromD<D>* b, hn::Vec<D> sg) {
-  const auto vb = hn::LoadU(d, b);
+HWY_INLINE hn::Vec<D> MulCx(D d, const hn::TFromD<D>* a, const hn::TFromD<D>* b) {
+  auto vb = hn::LoadU(d, b);
+  // b is loaded once and kept in a register: folded into both of its uses,
+  // the load would run twice, and loads are what bounds this loop (the
+  // duplicating loads of a cost no shuffle).
+  asm("" : "+v"(vb.raw));
   const auto x = hn::Mul(LoadDupRe(d, a), vb);
   const auto y = hn::Mul(LoadDupIm(d, a), hn::Reverse2(d, vb));
-  return CONJ ? hn::Add(y, hn::Mul(sg, x)) : hn::Add(x, hn::Mul(sg, y));
+  return CONJ ? SubAdd(y, x) : AddSub(x, y);
 }
 
 // Products of fewer than a vector of values through a padded vector, with
@@ -122,12 +167,12 @@ HWY_INLINE hn::Vec<D> MulCx(D d, const hn::TFromD<D>* a, const hn::TFromD<D>* b,
 // turned into fused multiply-adds by the compiler's own vectoriser).
 template <bool CONJ, class D>
 HWY_INLINE void MulCxPartial(D d, const hn::TFromD<D>* a, const hn::TFromD<D>* b, hn::TFromD<D>* dst,
-                             size_t count, hn::Vec<D> sg) {
+                             size_t count) {
   using T = hn::TFromD<D>;
   HWY_ALIGN T ta[64 / sizeof(T)] = {}, tb[64 / sizeof(T)] = {};
   std::memcpy(ta, a, count * sizeof(T));
   std::memcpy(tb, b, count * sizeof(T));
-  hn::Store(MulCx<CONJ>(d, ta, tb, sg), d, ta);
+  hn::Store(MulCx<CONJ>(d, ta, tb), d, ta);
   std::memcpy(dst, ta, count * sizeof(T));
 }
 
@@ -135,8 +180,6 @@ template <bool CONJ, class T>
 void MulPackedT(const T* a, const T* b, T* dst, size_t n) {
   const hn::ScalableTag<T> d;
   const size_t N = hn::Lanes(d);
-  const auto one = hn::Set(d, T(1)), neg = hn::Set(d, T(-1));
-  const auto sg = CONJ ? hn::OddEven(neg, one) : hn::OddEven(one, neg);
   const size_t total = 2 * n;
   size_t i = 0;
   // The first pairs separately until dst is vector-aligned (when it can be
@@ -145,18 +188,18 @@ void MulPackedT(const T* a, const T* b, T* dst, size_t n) {
   const auto addr = reinterpret_cast<uintptr_t>(dst);
   if (total >= 4 * N && addr % (2 * sizeof(T)) == 0 && addr % vbytes != 0) {
     i = (vbytes - addr % vbytes) / sizeof(T);
-    MulCxPartial<CONJ>(d, a, b, dst, i, sg);
+    MulCxPartial<CONJ>(d, a, b, dst, i);
   }
   // Two vectors per step; both are loaded before either is stored, so dst
   // may be a or b.
   for (; i + 2 * N <= total; i += 2 * N) {
-    const auto r0 = MulCx<CONJ>(d, a + i, b + i, sg);
-    const auto r1 = MulCx<CONJ>(d, a + i + N, b + i + N, sg);
+    const auto r0 = MulCx<CONJ>(d, a + i, b + i);
+    const auto r1 = MulCx<CONJ>(d, a + i + N, b + i + N);
     hn::StoreU(r0, d, dst + i);
     hn::StoreU(r1, d, dst + i + N);
   }
-  for (; i + N <= total; i += N) hn::StoreU(MulCx<CONJ>(d, a + i, b + i, sg), d, dst + i);
-  if (i < total) MulCxPartial<CONJ>(d, a + i, b + i, dst + i, total - i, sg);
+  for (; i + N <= total; i += N) hn::StoreU(MulCx<CONJ>(d, a + i, b + i), d, dst + i);
+  if (i < total) MulCxPartial<CONJ>(d, a + i, b + i, dst + i, total - i);
 }
 
 template <class T>

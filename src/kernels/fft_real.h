@@ -38,6 +38,119 @@ void real_recombine(const double* in, double* out, std::size_t m, const double* 
 void mul_packed_pairs(const float* a, const float* b, float* d, std::size_t n, bool conj);
 void mul_packed_pairs(const double* a, const double* b, double* d, std::size_t n, bool conj);
 
+// Straight-line real transforms of N = 1..32 points: the radix-2 real
+// algorithm, unrolled at compile time into code without loops or tables.
+// Forward: with E and O the half-length spectra of the even and the odd
+// samples, X[k] = E[k] + w^k O[k] and X[N/2 - k] = conj(E[k] - w^k O[k])
+// for 0 <= k <= N/4 (w = e^(-2 pi i/N); E and O real at 0 and N/4).
+// Inverse (the same steps backwards): the even outputs are the half-length
+// inverse of Y[k] = X[k] + conj X[N/2 - k], the odd ones that of
+// V[k] = (X[k] - conj X[N/2 - k]) conj(w^k); both are Hermitian, so the
+// recursion again needs k <= N/4 only. The twiddles 1, -i and (1 - i)/sqrt 2
+// are applied without general products. Every target runs this code, so the
+// results are the same everywhere.
+#if defined(__GNUC__)
+#define KELS_REAL_DFT_INLINE inline __attribute__((always_inline))
+#else
+#define KELS_REAL_DFT_INLINE inline
+#endif
+
+template <class T, int N>
+struct RealDft {
+  static_assert(N >= 4 && N <= 32 && (N & (N - 1)) == 0, "straight-line sizes are 4..32");
+  // cos(pi j/16), j = 0..8: cos(2 pi k/N) is entry k 32/N, the sine entry
+  // 8 - k 32/N.
+  static constexpr T cosine(int j) {
+    constexpr long double c[9] = {1.0L,
+                                  0.98078528040323044912618223613424L,
+                                  0.92387953251128675612818318939679L,
+                                  0.83146961230254523707878837761791L,
+                                  0.70710678118654752440084436210485L,
+                                  0.55557023301960222474283081394853L,
+                                  0.38268343236508977172845998403040L,
+                                  0.19509032201612826784828486847702L,
+                                  0.0L};
+    return static_cast<T>(c[j]);
+  }
+
+  // X[k] = re[k] + i im[k], 0 <= k <= N/2, of x[0], x[s], ..., x[(N-1) s];
+  // im[0] and im[N/2] (zero) are not written.
+  static KELS_REAL_DFT_INLINE void forward(const T* x, std::size_t s, T* re, T* im) {
+    constexpr int H = N / 2, Q = N / 4;
+    T er[Q + 1], ei[Q + 1], od_r[Q + 1], od_i[Q + 1];
+    RealDft<T, H>::forward(x, 2 * s, er, ei);
+    RealDft<T, H>::forward(x + s, 2 * s, od_r, od_i);
+    re[0] = er[0] + od_r[0];
+    re[H] = er[0] - od_r[0];
+    re[Q] = er[Q];
+    im[Q] = -od_r[Q];
+#pragma GCC unroll 8
+    for (int k = 1; k < Q; ++k) {
+      T tr, ti;  // w^k O[k]
+      if (2 * k == Q) {
+        const T h = cosine(4);
+        tr = (od_r[k] + od_i[k]) * h;
+        ti = (od_i[k] - od_r[k]) * h;
+      } else {
+        const T c = cosine(k * 32 / N), sn = cosine(8 - k * 32 / N);
+        tr = c * od_r[k] + sn * od_i[k];
+        ti = c * od_i[k] - sn * od_r[k];
+      }
+      re[k] = er[k] + tr;
+      im[k] = ei[k] + ti;
+      re[H - k] = er[k] - tr;
+      im[H - k] = ti - ei[k];
+    }
+  }
+
+  // x[j s] = sum over the Hermitian spectrum X[0..N-1] of X[k] w^(-jk), from
+  // X[k] = re[k] + i im[k], 0 <= k <= N/2 (im[0] and im[N/2] not read).
+  static KELS_REAL_DFT_INLINE void inverse(const T* re, const T* im, T* x, std::size_t s) {
+    constexpr int H = N / 2, Q = N / 4;
+    T yr[Q + 1], yi[Q + 1], vr[Q + 1], vi[Q + 1];
+    yr[0] = re[0] + re[H];
+    vr[0] = re[0] - re[H];
+    yr[Q] = re[Q] + re[Q];
+    vr[Q] = -(im[Q] + im[Q]);
+#pragma GCC unroll 8
+    for (int k = 1; k < Q; ++k) {
+      const T dr = re[k] - re[H - k], di = im[k] + im[H - k];
+      yr[k] = re[k] + re[H - k];
+      yi[k] = im[k] - im[H - k];
+      if (2 * k == Q) {
+        const T h = cosine(4);
+        vr[k] = (dr - di) * h;
+        vi[k] = (dr + di) * h;
+      } else {
+        const T c = cosine(k * 32 / N), sn = cosine(8 - k * 32 / N);
+        vr[k] = c * dr - sn * di;
+        vi[k] = sn * dr + c * di;
+      }
+    }
+    RealDft<T, H>::inverse(yr, yi, x, 2 * s);
+    RealDft<T, H>::inverse(vr, vi, x + s, 2 * s);
+  }
+};
+
+template <class T>
+struct RealDft<T, 2> {
+  static KELS_REAL_DFT_INLINE void forward(const T* x, std::size_t s, T* re, T*) {
+    re[0] = x[0] + x[s];
+    re[1] = x[0] - x[s];
+  }
+  static KELS_REAL_DFT_INLINE void inverse(const T* re, const T*, T* x, std::size_t s) {
+    const T a = re[0], b = re[1];
+    x[0] = a + b;
+    x[s] = a - b;
+  }
+};
+
+template <class T>
+struct RealDft<T, 1> {
+  static KELS_REAL_DFT_INLINE void forward(const T* x, std::size_t, T* re, T*) { re[0] = x[0]; }
+  static KELS_REAL_DFT_INLINE void inverse(const T* re, const T*, T* x, std::size_t) { x[0] = re[0]; }
+};
+
 namespace scalar {
 
 // One pair (k, m - k), k < m/2, in the pointer convention above (element k

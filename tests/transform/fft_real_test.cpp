@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstring>
 #include <random>
 #include <string>
 #include <vector>
@@ -151,6 +152,46 @@ TYPED_TEST(FftReal, EveryTarget) {
       for (Lay lay : {Lay::Perm, Lay::Pack, Lay::Ccs})
         for (int flag : {1, 2}) check<TypeParam>(order, flag, lay, (order + flag) % 2 == 0, false);
   });
+}
+
+// Orders 0..5 run straight-line scalar code on every target: the results
+// are the same bits everywhere, and with no work area a null buffer never
+// needs an allocation (so it succeeds even when allocation would fail).
+TYPED_TEST(FftReal, ShortOrdersSameOnEveryTargetWithoutAllocation) {
+  using F = TypeParam;
+  using T = typename F::Real;
+  for (int order = 0; order <= 5; ++order) {
+    for (int flag : {4, 8}) {
+      typename F::Spec* record = nullptr;
+      ASSERT_EQ(F::init_alloc(&record, order, flag), kelStsOk);
+      const std::size_t n = std::size_t{1} << order;
+      std::mt19937 gen(static_cast<unsigned>(order));
+      std::uniform_real_distribution<double> u(-1, 1);
+      std::vector<T> x(n + 2);
+      for (auto& v : x) v = static_cast<T>(u(gen));
+      std::vector<std::vector<T>> first;  // results of the first target
+      for_each_target([&](const std::string& target) {
+        std::vector<std::vector<T>> got;
+        for (Lay lay : {Lay::Perm, Lay::Pack, Lay::Ccs}) {
+          std::vector<T> y(n + 2, T(7)), z(n, T(7));
+          fail_alloc_after(1);
+          const KelStatus sf = F::fwd(lay, x.data(), y.data(), record, nullptr);
+          const KelStatus si = F::inv(lay, x.data(), z.data(), record, nullptr);
+          fail_alloc_after(0);
+          EXPECT_EQ(sf, kelStsOk) << target << " order " << order;
+          EXPECT_EQ(si, kelStsOk) << target << " order " << order;
+          got.push_back(y);
+          got.push_back(z);
+        }
+        if (first.empty()) first = got;
+        for (std::size_t i = 0; i < got.size(); ++i) {
+          EXPECT_EQ(std::memcmp(got[i].data(), first[i].data(), got[i].size() * sizeof(T)), 0)
+              << target << " order " << order << " flag " << flag << " result " << i;
+        }
+      });
+      F::release(record);
+    }
+  }
 }
 
 TYPED_TEST(FftReal, LargeOrders) {
