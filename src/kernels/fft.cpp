@@ -379,19 +379,6 @@ void Dft16Contiguous(D d, const T* src, T* dst) {
   Dft16Rows<INV>(d, u, dst);
 }
 
-// The 16-point transform of real single-precision data: the 16-point
-// codelet on (x, 0), the zero imaginary parts made by widening each value to
-// 64 bits. Writes the whole spectrum X[0..15] (32 values).
-template <class D>
-void Real16Forward(D d, const float* x, float* out) {
-  const hn::Repartition<uint64_t, D> du;
-  const hn::Rebind<uint32_t, decltype(du)> d32;
-  const auto* xu = reinterpret_cast<const uint32_t*>(x);
-  typename CxOps<D, 2, false>::C u[4];
-  for (size_t a = 0; a < 4; ++a) u[a].v = hn::BitCast(d, hn::PromoteTo(du, hn::LoadU(d32, xu + 4 * a)));
-  Dft16Rows<false>(d, u, out);
-}
-
 // Natural-order B-point DFT (B = 8 or 16) of y[0..B-1], each lane an
 // independent transform; the result replaces y. B = 4 * B1 with s = 4 s1 + s0
 // and k = k1 + B1 k0: B1-point transforms over s1, twiddles w_B^(s0 k1),
@@ -1517,19 +1504,7 @@ bool SmallInterleaved(const T* src, T* dst, int order, const T* first, const uin
   return true;
 }
 
-bool Real16ForwardF32(const float* x, float* out) {
-  const hn::CappedTag<float, 8> d;
-  if constexpr (hn::MaxLanes(decltype(d)()) != 8) {
-    return false;
-  } else {
-    Real16Forward(d, x, out);
-    return true;
-  }
-}
-
 #else  // HWY_SCALAR: the portable twin
-
-bool Real16ForwardF32(const float*, float*) { return false; }
 
 template <class T>
 bool SmallInterleaved(const T*, T*, int, const T*, const uint32_t*, bool, bool, T) {
@@ -1565,17 +1540,12 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace kels::kernels {
 
-HWY_EXPORT(Real16ForwardF32);
 HWY_EXPORT(SmallInterleavedF32);
 HWY_EXPORT(SmallInterleavedF64);
 HWY_EXPORT(FftInterleavedF32);
 HWY_EXPORT(FftInterleavedF64);
 HWY_EXPORT(FftSplitF32);
 HWY_EXPORT(FftSplitF64);
-
-bool fft_real16_forward(const float* x, float* spectrum) {
-  return HWY_DYNAMIC_DISPATCH(Real16ForwardF32)(x, spectrum);
-}
 
 bool fft_small_interleaved(const float* src, float* dst, int order, const float* first,
                            const std::uint32_t* rev, bool inv, bool scaled, float scale) {

@@ -75,10 +75,6 @@ void fft_interleaved(const FftPlan<double>& p, const FftArgs<double>& a);
 void fft_split(const FftPlan<float>& p, const FftArgs<float>& a);
 void fft_split(const FftPlan<double>& p, const FftArgs<double>& a);
 
-// The complex spectrum X[0..15] (32 values) of 16 real single-precision
-// values, unscaled; false (nothing written) when the target has no kernel.
-bool fft_real16_forward(const float* x, float* spectrum);
-
 // Out-of-place interleaved transforms of a single leaf (order 4 up to the
 // leaf size) straight from the record's first-level and bit-reversal tables,
 // scaled when `scaled`, without a plan or work area. Returns false (nothing
