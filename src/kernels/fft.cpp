@@ -572,26 +572,27 @@ void LeadBlocks(D d, const T* sre, const T* sim, T* dre, T* dim, size_t n,
   // r is a multiple of V, so rev(B (r + i)) = rev(B r) | rev(B i).
   size_t low[8];
   for (size_t i = 0; i < V; ++i) low[i] = fused ? rev(B * i) : 0;
-  for (size_t r1 = r0; r1 < cnt; r1 += step)
-   for (size_t r = r1; r < r1 + wide; r += V) {
-    C y[B];
-    if (fused) {
-      for (size_t s = 0; s < B; ++s) y[s] = o.load(sre, sim, r + s * cnt);
-      const size_t high = rev(B * r);
-      for (size_t i = 0; i < V; ++i) base[i] = B * (high | low[i]);
-    } else {
-      for (size_t i = 0; i < V; ++i) base[i] = B * (r + i);
+  for (size_t r1 = r0; r1 < cnt; r1 += step) {
+    for (size_t r = r1; r < r1 + wide; r += V) {
+      C y[B];
+      if (fused) {
+        for (size_t s = 0; s < B; ++s) y[s] = o.load(sre, sim, r + s * cnt);
+        const size_t high = rev(B * r);
+        for (size_t i = 0; i < V; ++i) base[i] = B * (high | low[i]);
+      } else {
+        for (size_t i = 0; i < V; ++i) base[i] = B * (r + i);
+        for (size_t g = 0; g < B; g += V) {
+          C u[8];
+          LoadTransposed<S>(o, dre, dim, base, g, u);
+          for (size_t j = 0; j < V; ++j) y[B == 16 ? kRev16[g + j] : kRev8[g + j]] = u[j];
+        }
+      }
+      DftLanes<B>(o, y);
       for (size_t g = 0; g < B; g += V) {
         C u[8];
-        LoadTransposed<S>(o, dre, dim, base, g, u);
-        for (size_t j = 0; j < V; ++j) y[B == 16 ? kRev16[g + j] : kRev8[g + j]] = u[j];
+        for (size_t i = 0; i < V; ++i) u[i] = y[g + i];
+        StoreTransposed<S>(o, u, base, g, dre, dim);
       }
-    }
-    DftLanes<B>(o, y);
-    for (size_t g = 0; g < B; g += V) {
-      C u[8];
-      for (size_t i = 0; i < V; ++i) u[i] = y[g + i];
-      StoreTransposed<S>(o, u, base, g, dre, dim);
     }
   }
 }
