@@ -25,7 +25,7 @@ struct Record {
   std::int32_t taps_len;       // L
   std::int32_t direct_limit;   // L rounded up to a multiple of 4, plus 1
   std::int32_t fft_len;        // N of the FFT method; -1 when absent
-  void* fft_spec;              // complex FFT specification (half length), or null
+  void* half_fft;              // complex FFT record of half the block length, or null
   std::uint32_t fft_taps;      // 4N values: factor tables of the spectral step, 0 when absent
   std::int32_t dly_index;      // start of the history inside the delay-line area
   std::uint32_t taps_x4;       // each reversed tap repeated four times

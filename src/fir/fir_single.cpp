@@ -153,36 +153,29 @@ constexpr int kFftMinTaps = 64;
 template <class M> constexpr bool has_fft = std::is_same_v<M, M32f> || std::is_same_v<M, M64f32s>;
 
 // The complex-FFT functions of one precision.
-struct FftApi32 {
-  using F = Kel32f;
-  using Cx = Kel32fc;
-  using Spec = KelsFFTSpec_C_32fc;
-  static KelStatus init(Spec** p, int order) { return kelsFFTInitAlloc_C_32fc(p, order, KEL_FFT_SCALE_NONE, 0); }
-  static KelStatus buf_size(const void* s, int* n) { return kelsFFTGetBufSize_C_32fc(static_cast<const Spec*>(s), n); }
+template <class F_, class Cx_, class R, auto Init, auto BufSize, auto Fwd, auto Inv, auto Free,
+          auto Spectral>
+struct FftApi {
+  using F = F_;
+  using Cx = Cx_;
+  using FftRecord = R;
+  static KelStatus init(R** p, int order) { return Init(p, order, KEL_FFT_SCALE_NONE, 0); }
+  static KelStatus buf_size(const void* s, int* n) { return BufSize(static_cast<const R*>(s), n); }
   static KelStatus fwd(const F* a, F* b, const void* s, Kel8u* w) {
-    return kelsFFTFwd_CToC_32fc(reinterpret_cast<const Cx*>(a), reinterpret_cast<Cx*>(b), static_cast<const Spec*>(s), w);
+    return Fwd(reinterpret_cast<const Cx*>(a), reinterpret_cast<Cx*>(b), static_cast<const R*>(s), w);
   }
   static KelStatus inv(const F* a, F* b, const void* s, Kel8u* w) {
-    return kelsFFTInv_CToC_32fc(reinterpret_cast<const Cx*>(a), reinterpret_cast<Cx*>(b), static_cast<const Spec*>(s), w);
+    return Inv(reinterpret_cast<const Cx*>(a), reinterpret_cast<Cx*>(b), static_cast<const R*>(s), w);
   }
-  static void spectral(const F* const tab[4], F* z, std::size_t m) { kernels::fir_spectral_f32(tab, z, m); }
-  static void release(void* s) { kelsFFTFree_C_32fc(static_cast<Spec*>(s)); }
+  static void spectral(const F* const tab[4], F* z, std::size_t m) { Spectral(tab, z, m); }
+  static void release(void* s) { Free(static_cast<R*>(s)); }
 };
-struct FftApi64 {
-  using F = Kel64f;
-  using Cx = Kel64fc;
-  using Spec = KelsFFTSpec_C_64fc;
-  static KelStatus init(Spec** p, int order) { return kelsFFTInitAlloc_C_64fc(p, order, KEL_FFT_SCALE_NONE, 0); }
-  static KelStatus buf_size(const void* s, int* n) { return kelsFFTGetBufSize_C_64fc(static_cast<const Spec*>(s), n); }
-  static KelStatus fwd(const F* a, F* b, const void* s, Kel8u* w) {
-    return kelsFFTFwd_CToC_64fc(reinterpret_cast<const Cx*>(a), reinterpret_cast<Cx*>(b), static_cast<const Spec*>(s), w);
-  }
-  static KelStatus inv(const F* a, F* b, const void* s, Kel8u* w) {
-    return kelsFFTInv_CToC_64fc(reinterpret_cast<const Cx*>(a), reinterpret_cast<Cx*>(b), static_cast<const Spec*>(s), w);
-  }
-  static void spectral(const F* const tab[4], F* z, std::size_t m) { kernels::fir_spectral_f64(tab, z, m); }
-  static void release(void* s) { kelsFFTFree_C_64fc(static_cast<Spec*>(s)); }
-};
+using FftApi32 = FftApi<Kel32f, Kel32fc, KelsFFTSpec_C_32fc, kelsFFTInitAlloc_C_32fc, kelsFFTGetBufSize_C_32fc,
+                        kelsFFTFwd_CToC_32fc, kelsFFTInv_CToC_32fc, kelsFFTFree_C_32fc,
+                        kernels::fir_spectral_f32>;
+using FftApi64 = FftApi<Kel64f, Kel64fc, KelsFFTSpec_C_64fc, kelsFFTInitAlloc_C_64fc, kelsFFTGetBufSize_C_64fc,
+                        kelsFFTFwd_CToC_64fc, kelsFFTInv_CToC_64fc, kelsFFTFree_C_64fc,
+                        kernels::fir_spectral_f64>;
 template <class M> using fft_api = std::conditional_t<std::is_same_v<M, M32f>, FftApi32, FftApi64>;
 template <class M> using fft_t = typename fft_api<M>::F;
 
@@ -229,7 +222,7 @@ fft_t<M>* fft_block_of(Record* r, int t) {
 template <class M>
 Kel8u* fft_work_of(Record* r, int t) {
   int size = 0;
-  fft_api<M>::buf_size(r->fft_spec, &size);
+  fft_api<M>::buf_size(r->half_fft, &size);
   if (size <= 0) return nullptr;
   return area<Kel8u>(r, r->fft_work) + static_cast<std::size_t>(t) * thread_stride(static_cast<std::uint64_t>(size));
 }
@@ -294,10 +287,10 @@ KelStatus fft_prepare_taps(Record* r) {
   const tap_t<M>* t = area<tap_t<M>>(r, r->taps);
   for (int k = 0; k < L; ++k) z[k] = static_cast<F>(t[L - 1 - k]);
   zero_n(z + L, N - L);
-  const KelStatus st = fft_api<M>::fwd(z, z + N, r->fft_spec, fft_work_of<M>(r, 0));
+  const KelStatus st = fft_api<M>::fwd(z, z + N, r->half_fft, fft_work_of<M>(r, 0));
   if (st < 0) {
-    fft_api<M>::release(r->fft_spec);
-    r->fft_spec = nullptr;
+    fft_api<M>::release(r->half_fft);
+    r->half_fft = nullptr;
     r->fft_len = -1;
     return st;
   }
@@ -331,11 +324,11 @@ KelStatus fft_convolve(const Record* r, const fft_t<M>* src, fft_t<M>* b, Kel8u*
   using F = fft_t<M>;
   const std::size_t N = static_cast<std::size_t>(r->fft_len);
   F* z = b + N;
-  KELS_RETURN_IF_ERROR(A::fwd(src, z, r->fft_spec, w));
+  KELS_RETURN_IF_ERROR(A::fwd(src, z, r->half_fft, w));
   const F* base = area<F>(r, r->fft_taps);
   const F* const tab[4] = {base, base + N, base + 2 * N, base + 3 * N};
   A::spectral(tab, z, N / 2);
-  return A::inv(z, b, r->fft_spec, w);
+  return A::inv(z, b, r->half_fft, w);
 }
 
 // Block starting at in[i] of the long path: M overlap samples then S new
@@ -519,7 +512,7 @@ Record* build(void* mem, int L, const data_t<M>* history) {
   r->dly_len = L;
   r->direct_limit = ((L + 3) & ~3) + 1;
   r->fft_len = -1;
-  r->fft_spec = nullptr;
+  r->half_fft = nullptr;
   r->work_len = static_cast<std::int32_t>(kWorkUsedBytes / sizeof(data_t<M>));
   zero_n(area<data_t<M>>(r, r->dly), 3 * L + 4);
   set_history<M>(r, history);
@@ -689,7 +682,7 @@ KelStatus fft_plan(int L, std::uint64_t record_bytes, void** fft_record, FftPlan
   int order = 2;
   while ((std::int64_t{1} << order) <= L) ++order;
   ++order;
-  typename A::Spec* s = nullptr;
+  typename A::FftRecord* s = nullptr;
   const KelStatus st = A::init(&s, order - 1);
   if (st == kelStsNoMemory) return st;
   if (st < 0) return kelStsOk;
@@ -753,7 +746,7 @@ KelStatus init_family(State** pp, int L, const data_t<M>* history, Kel8u* buffer
   fill_x4<M>(r);
   if constexpr (has_fft<M>) {
     if (fft_record != nullptr) {
-      r->fft_spec = fft_record;
+      r->half_fft = fft_record;
       r->fft_len = plan.N;
       r->fft_threads = plan.threads;
       r->fft_taps = static_cast<std::uint32_t>(plan.lay.taps);
@@ -777,7 +770,7 @@ KelStatus free_family(State* s) {
   Record* r = rec(s);
   if (r->owned == 0) return kelStsOk;
   if constexpr (has_fft<M>) {
-    if (r->fft_spec != nullptr) fft_api<M>::release(r->fft_spec);
+    if (r->half_fft != nullptr) fft_api<M>::release(r->half_fft);
   }
   aligned_free(r);
   return kelStsOk;
@@ -801,7 +794,7 @@ KelStatus set_taps_family(State* s, const void* taps, Fn store) {
   store(rec(s));
   fill_x4<M>(rec(s));
   if constexpr (has_fft<M>) {
-    if (rec(s)->fft_spec != nullptr) return fft_prepare_taps<M>(rec(s));
+    if (rec(s)->half_fft != nullptr) return fft_prepare_taps<M>(rec(s));
   }
   return kelStsOk;
 }

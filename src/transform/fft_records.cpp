@@ -287,19 +287,19 @@ KelStatus get_size(const Family& f, int order, int* record, int* init, int* work
   return kelStsOk;
 }
 
-template <class Spec>
-KelStatus init(const Family& f, Spec** pp, int order, int flag, int hint, Kel8u* mem, Kel8u* buf) {
+template <class FftRecord>
+KelStatus init(const Family& f, FftRecord** pp, int order, int flag, int hint, Kel8u* mem, Kel8u* buf) {
   KELS_REQUIRE_PTRS(pp);
   if (order < 0 || order > 30) return kelStsBadOrder;
   KELS_REQUIRE_PTRS(mem);
   void* out = nullptr;
   const KelStatus st = build_record(f, align16(mem), order, flag, hint, buf, false, &out);
-  if (st == kelStsOk) *pp = static_cast<Spec*>(out);
+  if (st == kelStsOk) *pp = static_cast<FftRecord*>(out);
   return st;
 }
 
-template <class Spec>
-KelStatus init_alloc(const Family& f, Spec** pp, int order, int flag, int hint) {
+template <class FftRecord>
+KelStatus init_alloc(const Family& f, FftRecord** pp, int order, int flag, int hint) {
   KELS_REQUIRE_PTRS(pp);
   if (order < 0 || order > 30) return kelStsBadOrder;
   const Sizes s = record_sizes(f, order);
@@ -324,7 +324,7 @@ KelStatus init_alloc(const Family& f, Spec** pp, int order, int flag, int hint) 
     aligned_free(rec);
     return st;
   }
-  *pp = static_cast<Spec*>(out);
+  *pp = static_cast<FftRecord*>(out);
   return kelStsOk;
 }
 

@@ -148,7 +148,7 @@ TYPED_TEST(FftComplex, BadArguments) {
   // pointers are looked at.
   KelsFFTSpec_R_32f* other = nullptr;
   ASSERT_EQ(kelsFFTInitAlloc_R_32f(&other, 5, 8, 0), kelStsOk);
-  const auto* foreign = reinterpret_cast<const typename F::Spec*>(other);
+  const auto* foreign = reinterpret_cast<const typename F::FftRecord*>(other);
   EXPECT_EQ(F::fwd(nullptr, nullptr, nullptr, nullptr, foreign, nullptr), kelStsBadContext);
   kelsFFTFree_R_32f(other);
   EXPECT_EQ(F::fwd(nullptr, si, dr, di, s.record, nullptr), kelStsNullPtr);

@@ -22,34 +22,34 @@ using ref::cld;
 #define KELS_TEST_FFT_TRAITS(Name, T, C, fam, split_)                                              \
   struct Name {                                                                                    \
     using Real = T;                                                                                \
-    using Spec = KelsFFTSpec_##fam;                                                                \
+    using FftRecord = KelsFFTSpec_##fam;                                                                \
     static constexpr bool split = split_;                                                          \
     static constexpr const char* name = #fam;                                                      \
     static KelStatus get_size(int o, int f, int* a, int* b, int* c) {                              \
       return kelsFFTGetSize_##fam(o, f, 0, a, b, c);                                               \
     }                                                                                              \
-    static KelStatus init(Spec** pp, int o, int f, Kel8u* m, Kel8u* b) {                           \
+    static KelStatus init(FftRecord** pp, int o, int f, Kel8u* m, Kel8u* b) {                           \
       return kelsFFTInit_##fam(pp, o, f, 0, m, b);                                                 \
     }                                                                                              \
-    static KelStatus init_alloc(Spec** pp, int o, int f) { return kelsFFTInitAlloc_##fam(pp, o, f, 0); } \
-    static KelStatus release(Spec* s) { return kelsFFTFree_##fam(s); }                             \
-    static KelStatus buf_size(const Spec* s, int* n) { return kelsFFTGetBufSize_##fam(s, n); }     \
+    static KelStatus init_alloc(FftRecord** pp, int o, int f) { return kelsFFTInitAlloc_##fam(pp, o, f, 0); } \
+    static KelStatus release(FftRecord* s) { return kelsFFTFree_##fam(s); }                             \
+    static KelStatus buf_size(const FftRecord* s, int* n) { return kelsFFTGetBufSize_##fam(s, n); }     \
     KELS_TEST_FFT_CALLS_##split_(T, C, fam)                                                        \
   };
 
 // Interleaved: re/im arrays are views of one array of pairs.
 #define KELS_TEST_FFT_CALLS_false(T, C, fam)                                                       \
-  static KelStatus fwd(const T* sr, const T*, T* dr, T*, const Spec* s, Kel8u* b) {                \
+  static KelStatus fwd(const T* sr, const T*, T* dr, T*, const FftRecord* s, Kel8u* b) {                \
     return kelsFFTFwd_CToC_##fam##_(reinterpret_cast<const C*>(sr), reinterpret_cast<C*>(dr), s, b); \
   }                                                                                                \
-  static KelStatus inv(const T* sr, const T*, T* dr, T*, const Spec* s, Kel8u* b) {                \
+  static KelStatus inv(const T* sr, const T*, T* dr, T*, const FftRecord* s, Kel8u* b) {                \
     return kelsFFTInv_CToC_##fam##_(reinterpret_cast<const C*>(sr), reinterpret_cast<C*>(dr), s, b); \
   }
 #define KELS_TEST_FFT_CALLS_true(T, C, fam)                                                        \
-  static KelStatus fwd(const T* sr, const T* si, T* dr, T* di, const Spec* s, Kel8u* b) {          \
+  static KelStatus fwd(const T* sr, const T* si, T* dr, T* di, const FftRecord* s, Kel8u* b) {          \
     return kelsFFTFwd_CToC_##fam##_(sr, si, dr, di, s, b);                                         \
   }                                                                                                \
-  static KelStatus inv(const T* sr, const T* si, T* dr, T* di, const Spec* s, Kel8u* b) {          \
+  static KelStatus inv(const T* sr, const T* si, T* dr, T* di, const FftRecord* s, Kel8u* b) {          \
     return kelsFFTInv_CToC_##fam##_(sr, si, dr, di, s, b);                                         \
   }
 
@@ -70,7 +70,7 @@ KELS_TEST_FFT_TRAITS(Fam64f, Kel64f, Kel64f, C_64f, true)
 // A record made by InitAlloc, released on scope exit.
 template <class F>
 struct OwnedSpec {
-  typename F::Spec* record = nullptr;
+  typename F::FftRecord* record = nullptr;
   KelStatus status;
   OwnedSpec(int order, int flag) { status = F::init_alloc(&record, order, flag); }
   ~OwnedSpec() {
@@ -84,7 +84,7 @@ struct OwnedSpec {
 template <class F>
 struct ReleasedSpec {
   std::vector<Kel8u> mem = std::vector<Kel8u>(1 << 16), buf = std::vector<Kel8u>(1 << 16);
-  typename F::Spec* record = nullptr;
+  typename F::FftRecord* record = nullptr;
   explicit ReleasedSpec(int order) {
     if (F::init(&record, order, 8, mem.data(), buf.data()) == kelStsOk) F::release(record);
   }
@@ -102,7 +102,7 @@ struct Mode {
 // Runs one transform of x; the data arrays sit in guarded buffers whose
 // guards are checked.
 template <class F>
-std::vector<cld> run(const typename F::Spec* record, const std::vector<cld>& x, const Mode& m,
+std::vector<cld> run(const typename F::FftRecord* record, const std::vector<cld>& x, const Mode& m,
                      KelStatus* status, bool* guards_ok) {
   using T = typename F::Real;
   const std::size_t n = x.size();

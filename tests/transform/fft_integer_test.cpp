@@ -25,19 +25,19 @@ using ref::cld;
 #define KELS_TEST_INT_FAMILY(Name, I, C, code, fam, split_)                                       \
   struct Name {                                                                                   \
     using Int = I;                                                                                \
-    using Spec = KelsFFTSpec_##fam;                                                               \
+    using FftRecord = KelsFFTSpec_##fam;                                                               \
     static constexpr bool split = split_;                                                         \
-    static KelStatus init_alloc(Spec** pp, int o, int f) { return kelsFFTInitAlloc_##fam(pp, o, f, 0); } \
-    static KelStatus release(Spec* s) { return kelsFFTFree_##fam(s); }                            \
-    static KelStatus init(Spec** pp, int o, int f, Kel8u* m, Kel8u* b) {                          \
+    static KelStatus init_alloc(FftRecord** pp, int o, int f) { return kelsFFTInitAlloc_##fam(pp, o, f, 0); } \
+    static KelStatus release(FftRecord* s) { return kelsFFTFree_##fam(s); }                            \
+    static KelStatus init(FftRecord** pp, int o, int f, Kel8u* m, Kel8u* b) {                          \
       return kelsFFTInit_##fam(pp, o, f, 0, m, b);                                                \
     }                                                                                             \
-    static KelStatus buf_size(const Spec* s, int* n) { return kelsFFTGetBufSize_##fam(s, n); }    \
-    static KelStatus run(bool inv, const I* sr, const I* si, I* dr, I* di, const Spec* s, int sf, \
+    static KelStatus buf_size(const FftRecord* s, int* n) { return kelsFFTGetBufSize_##fam(s, n); }    \
+    static KelStatus run(bool inv, const I* sr, const I* si, I* dr, I* di, const FftRecord* s, int sf, \
                          Kel8u* b) {                                                              \
       return call_##split_(inv, sr, si, dr, di, s, sf, b);                                         \
     }                                                                                             \
-    static KelStatus call_false(bool inv, const I* sr, const I*, I* dr, I*, const Spec* s, int sf, \
+    static KelStatus call_false(bool inv, const I* sr, const I*, I* dr, I*, const FftRecord* s, int sf, \
                                 Kel8u* b) {                                                       \
       const C* src = reinterpret_cast<const C*>(sr);                                              \
       C* dst = reinterpret_cast<C*>(dr);                                                          \
@@ -45,7 +45,7 @@ using ref::cld;
       return inv ? kelsFFTInv_CToC_##code##c_Sfs(src, dst, sp, sf, b)                             \
                  : kelsFFTFwd_CToC_##code##c_Sfs(src, dst, sp, sf, b);                            \
     }                                                                                             \
-    static KelStatus call_true(bool inv, const I* sr, const I* si, I* dr, I* di, const Spec* s,   \
+    static KelStatus call_true(bool inv, const I* sr, const I* si, I* dr, I* di, const FftRecord* s,   \
                                int sf, Kel8u* b) {                                                \
       const auto* sp = reinterpret_cast<const KelsFFTSpec_C_##code*>(s);                          \
       return inv ? kelsFFTInv_CToC_##code##_Sfs(sr, si, dr, di, sp, sf, b)                        \
@@ -77,7 +77,7 @@ long double round_even_sat(long double y) {
 template <class F>
 void check(int order, int flag, int sf, bool inv, bool in_place, bool null_buf, long double amp) {
   using I = typename F::Int;
-  typename F::Spec* record = nullptr;
+  typename F::FftRecord* record = nullptr;
   ASSERT_EQ(F::init_alloc(&record, order, flag), kelStsOk);
   const std::size_t n = std::size_t{1} << order;
   std::mt19937 gen(static_cast<unsigned>(order * 131 + sf));
@@ -151,7 +151,7 @@ TYPED_TEST(FftInteger, ScaleFactorsAndSaturation) {
 TYPED_TEST(FftInteger, BadArguments) {
   using F = TypeParam;
   using I = typename F::Int;
-  typename F::Spec* record = nullptr;
+  typename F::FftRecord* record = nullptr;
   ASSERT_EQ(F::init_alloc(&record, 6, 8), kelStsOk);
   Guarded<I> a(128), b(128);
   I* bi = b.data() + (F::split ? 64 : 1);
@@ -160,7 +160,7 @@ TYPED_TEST(FftInteger, BadArguments) {
   KelsFFTSpec_C_64fc* other = nullptr;
   ASSERT_EQ(kelsFFTInitAlloc_C_64fc(&other, 6, 8, 0), kelStsOk);
   EXPECT_EQ(F::run(false, nullptr, nullptr, nullptr, nullptr,
-                   reinterpret_cast<const typename F::Spec*>(other), 0, nullptr),
+                   reinterpret_cast<const typename F::FftRecord*>(other), 0, nullptr),
             kelStsBadContext);
   kelsFFTFree_C_64fc(other);
   fail_alloc_after(1);

@@ -20,29 +20,29 @@ enum class Lay { Perm, Pack, Ccs };
 #define KELS_TEST_REAL_FAMILY(Name, T, fam, code)                                                  \
   struct Name {                                                                                    \
     using Real = T;                                                                                \
-    using Spec = KelsFFTSpec_##fam;                                                                \
-    static KelStatus init_alloc(Spec** pp, int o, int f) { return kelsFFTInitAlloc_##fam(pp, o, f, 0); } \
-    static KelStatus release(Spec* s) { return kelsFFTFree_##fam(s); }                             \
-    static KelStatus init(Spec** pp, int o, int f, Kel8u* m, Kel8u* b) {                           \
+    using FftRecord = KelsFFTSpec_##fam;                                                                \
+    static KelStatus init_alloc(FftRecord** pp, int o, int f) { return kelsFFTInitAlloc_##fam(pp, o, f, 0); } \
+    static KelStatus release(FftRecord* s) { return kelsFFTFree_##fam(s); }                             \
+    static KelStatus init(FftRecord** pp, int o, int f, Kel8u* m, Kel8u* b) {                           \
       return kelsFFTInit_##fam(pp, o, f, 0, m, b);                                                 \
     }                                                                                              \
-    static KelStatus buf_size(const Spec* s, int* n) { return kelsFFTGetBufSize_##fam(s, n); }     \
-    static KelStatus fwd(Lay l, const T* s, T* d, const Spec* p, Kel8u* b) {                       \
+    static KelStatus buf_size(const FftRecord* s, int* n) { return kelsFFTGetBufSize_##fam(s, n); }     \
+    static KelStatus fwd(Lay l, const T* s, T* d, const FftRecord* p, Kel8u* b) {                       \
       return l == Lay::Perm ? kelsFFTFwd_RToPerm_##code(s, d, p, b)                                \
            : l == Lay::Pack ? kelsFFTFwd_RToPack_##code(s, d, p, b)                                \
                             : kelsFFTFwd_RToCCS_##code(s, d, p, b);                                \
     }                                                                                              \
-    static KelStatus inv(Lay l, const T* s, T* d, const Spec* p, Kel8u* b) {                       \
+    static KelStatus inv(Lay l, const T* s, T* d, const FftRecord* p, Kel8u* b) {                       \
       return l == Lay::Perm ? kelsFFTInv_PermToR_##code(s, d, p, b)                                \
            : l == Lay::Pack ? kelsFFTInv_PackToR_##code(s, d, p, b)                                \
                             : kelsFFTInv_CCSToR_##code(s, d, p, b);                                \
     }                                                                                              \
-    static KelStatus fwd_i(Lay l, T* x, const Spec* p, Kel8u* b) {                                 \
+    static KelStatus fwd_i(Lay l, T* x, const FftRecord* p, Kel8u* b) {                                 \
       return l == Lay::Perm ? kelsFFTFwd_RToPerm_##code##_I(x, p, b)                               \
            : l == Lay::Pack ? kelsFFTFwd_RToPack_##code##_I(x, p, b)                               \
                             : kelsFFTFwd_RToCCS_##code##_I(x, p, b);                               \
     }                                                                                              \
-    static KelStatus inv_i(Lay l, T* x, const Spec* p, Kel8u* b) {                                 \
+    static KelStatus inv_i(Lay l, T* x, const FftRecord* p, Kel8u* b) {                                 \
       return l == Lay::Perm ? kelsFFTInv_PermToR_##code##_I(x, p, b)                               \
            : l == Lay::Pack ? kelsFFTInv_PackToR_##code##_I(x, p, b)                               \
                             : kelsFFTInv_CCSToR_##code##_I(x, p, b);                               \
@@ -88,7 +88,7 @@ long double rel_rms_real(const std::vector<long double>& a, const std::vector<lo
 template <class F>
 void check(int order, int flag, Lay lay, bool in_place, bool null_buf) {
   using T = typename F::Real;
-  typename F::Spec* record = nullptr;
+  typename F::FftRecord* record = nullptr;
   ASSERT_EQ(F::init_alloc(&record, order, flag), kelStsOk);
   const std::size_t n = std::size_t{1} << order;
   const std::size_t len = lay == Lay::Ccs ? (n == 1 ? 2 : n + 2) : n;
@@ -162,7 +162,7 @@ TYPED_TEST(FftReal, ShortOrdersSameOnEveryTargetWithoutAllocation) {
   using T = typename F::Real;
   for (int order = 0; order <= 5; ++order) {
     for (int flag : {4, 8}) {
-      typename F::Spec* record = nullptr;
+      typename F::FftRecord* record = nullptr;
       ASSERT_EQ(F::init_alloc(&record, order, flag), kelStsOk);
       const std::size_t n = std::size_t{1} << order;
       std::mt19937 gen(static_cast<unsigned>(order));
@@ -228,7 +228,7 @@ TEST(FftRealSmall, DegenerateLengths) {
 TYPED_TEST(FftReal, BadArguments) {
   using F = TypeParam;
   using T = typename F::Real;
-  typename F::Spec* record = nullptr;
+  typename F::FftRecord* record = nullptr;
   ASSERT_EQ(F::init_alloc(&record, 6, 8), kelStsOk);
   Guarded<T> a(66), d(66);
   for (Lay lay : {Lay::Perm, Lay::Pack, Lay::Ccs}) {
@@ -237,7 +237,7 @@ TYPED_TEST(FftReal, BadArguments) {
     EXPECT_EQ(F::fwd(lay, a.data(), nullptr, record, nullptr), kelStsNullPtr);
     KelsFFTSpec_C_32fc* other = nullptr;
     ASSERT_EQ(kelsFFTInitAlloc_C_32fc(&other, 6, 8, 0), kelStsOk);
-    EXPECT_EQ(F::fwd(lay, nullptr, nullptr, reinterpret_cast<const typename F::Spec*>(other), nullptr),
+    EXPECT_EQ(F::fwd(lay, nullptr, nullptr, reinterpret_cast<const typename F::FftRecord*>(other), nullptr),
               kelStsBadContext);
     kelsFFTFree_C_32fc(other);
     fail_alloc_after(1);
@@ -275,11 +275,11 @@ void expect_rounded(const std::vector<long double>& exact, const O* got, const s
 }
 
 
-template <class I, class O, class Spec>
-void int_real_case(KelStatus (*init)(Spec**, int, int, int), KelStatus (*fwd)(const I*, O*, const Spec*, int, Kel8u*),
-                   KelStatus (*inv)(const O*, I*, const Spec*, int, Kel8u*), KelStatus (*release)(Spec*),
+template <class I, class O, class FftRecord>
+void int_real_case(KelStatus (*init)(FftRecord**, int, int, int), KelStatus (*fwd)(const I*, O*, const FftRecord*, int, Kel8u*),
+                   KelStatus (*inv)(const O*, I*, const FftRecord*, int, Kel8u*), KelStatus (*release)(FftRecord*),
                    Lay lay, int order, int flag, int sf_f, int sf_i) {
-  Spec* record = nullptr;
+  FftRecord* record = nullptr;
   ASSERT_EQ(init(&record, order, flag, 0), kelStsOk);
   const std::size_t n = std::size_t{1} << order, len = lay == Lay::Ccs ? (n == 1 ? 2 : n + 2) : n;
   std::mt19937 gen(static_cast<unsigned>(order + flag));
