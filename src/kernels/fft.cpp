@@ -1422,29 +1422,29 @@ void Run(const FftPlan<T>& p, const FftArgs<T>& a) {
   scalar::Engine<T, S, VecPasses<T, S>>{p, a}.run();
 }
 
+// The radix-4 stage passes at one vector width D (the leaf's stage loop
+// is the engine's).
+template <class D, bool INV>
+struct FixedWidthStages {
+  template <class T>
+  static void radix4(T* re, T* im, size_t n, size_t L, const T* tw, bool) {
+    Radix4Rows<2, INV>(D(), re, im, n, L, tw);
+  }
+  template <class T>
+  static void radix4x2(T* re, T* im, size_t n, size_t L, const T* tw, const T* tw4, bool) {
+    Radix4x2Rows<2, INV>(D(), re, im, n, L, tw, tw4);
+  }
+};
+
 // A single leaf of order >= 7, out of place, at one vector width: the
 // fused first pass, then the radix-4 stages (pairs in one pass).
 template <bool INV, class D, class T>
 void LeafDirect(D d, const T* src, T* dst, int order, const T* first, const uint32_t* rev) {
   const size_t n = size_t(1) << order;
   const scalar::BitRev br(rev, order);
-  const size_t B = order & 1 ? 8 : 16;
   if (order & 1) LeadBlocks<8, INV, 2>(d, src, src + 1, dst, dst + 1, n, br, true, 0, 0, 0);
   else LeadBlocks<16, INV, 2>(d, src, src + 1, dst, dst + 1, n, br, true, 0, 0, 0);
-  size_t L = 4 * B;
-  const T* tw = first + stage_offset(order, L);
-  int stages = 0;
-  for (size_t l = L; l <= n; l *= 4) ++stages;
-  if (stages % 2 == 1) {
-    Radix4Rows<2, INV>(d, dst, dst + 1, n, L, tw);
-    tw += 2 * (3 * L / 4);
-    L *= 4;
-  }
-  for (; L <= n; L *= 16) {
-    const T* tw4 = tw + 2 * (3 * L / 4);
-    Radix4x2Rows<2, INV>(d, dst, dst + 1, n, L, tw, tw4);
-    tw = tw4 + 2 * (3 * L);
-  }
+  scalar::leaf_stages<T, FixedWidthStages<D, INV>>(dst, dst + 1, order, order & 1 ? 8 : 16, first, INV);
 }
 
 template <class T>
