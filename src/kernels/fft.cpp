@@ -192,7 +192,8 @@ HWY_INLINE void Bfly4(const O& o, C& x0, C& x1, C& x2, C& x3) {
 }
 
 template <int S, bool INV, class D, class T>
-void Radix4Rows(D d, T* HWY_RESTRICT re, T* HWY_RESTRICT im, size_t n, size_t L, const T* tw) {
+HWY_INLINE void Radix4Body(D d, const T* re, const T* im, T* ore, T* oim, size_t n, size_t L,
+                           const T* tw) {
   const CxOps<D, S, INV> o(d);
   const size_t q = L / 4;
   const size_t step = hn::Lanes(d) / S;
@@ -205,10 +206,10 @@ void Radix4Rows(D d, T* HWY_RESTRICT re, T* HWY_RESTRICT im, size_t n, size_t L,
       auto x2 = o.mul_w(o.load(re, im, i + 2 * q), o.tw_at(tw, twi, j));
       auto x3 = o.mul_w(o.load(re, im, i + 3 * q), o.tw_at(tw, twi, 2 * q + j));
       Bfly4(o, x0, x1, x2, x3);
-      o.store(re, im, i, x0);
-      o.store(re, im, i + q, x1);
-      o.store(re, im, i + 2 * q, x2);
-      o.store(re, im, i + 3 * q, x3);
+      o.store(ore, oim, i, x0);
+      o.store(ore, oim, i + q, x1);
+      o.store(ore, oim, i + 2 * q, x2);
+      o.store(ore, oim, i + 3 * q, x3);
     }
   }
 }
@@ -217,8 +218,8 @@ void Radix4Rows(D d, T* HWY_RESTRICT re, T* HWY_RESTRICT im, size_t n, size_t L,
 // j..j+V-1) are loaded, the four radix-4 butterflies of stage L and the four
 // of stage 4L run in registers, and the sixteen are stored.
 template <int S, bool INV, class D, class T>
-void Radix4x2Rows(D d, T* HWY_RESTRICT re, T* HWY_RESTRICT im, size_t n, size_t L, const T* tw,
-                  const T* tw4) {
+HWY_INLINE void Radix4x2Body(D d, const T* re, const T* im, T* ore, T* oim, size_t n, size_t L,
+                             const T* tw, const T* tw4) {
   const CxOps<D, S, INV> o(d);
   const size_t q = L / 4;
   const size_t step = hn::Lanes(d) / S;
@@ -250,13 +251,36 @@ void Radix4x2Rows(D d, T* HWY_RESTRICT re, T* HWY_RESTRICT im, size_t n, size_t 
         C a3 = o.mul_w(x[g + 12], o.tw_at(tw4, tw4i, 2 * L + jj));
         Bfly4(o, a0, a1, a2, a3);
         const size_t e = i + g * q;
-        o.store(re, im, e, a0);
-        o.store(re, im, e + L, a1);
-        o.store(re, im, e + 2 * L, a2);
-        o.store(re, im, e + 3 * L, a3);
+        o.store(ore, oim, e, a0);
+        o.store(ore, oim, e + L, a1);
+        o.store(ore, oim, e + 2 * L, a2);
+        o.store(ore, oim, e + 3 * L, a3);
       }
     }
   }
+}
+
+// The stage passes in place, or from one array into another: either way
+// the data do not alias the tables, which lets the compiler move table loads
+// across the data stores.
+template <int S, bool INV, class D, class T>
+void Radix4Rows(D d, const T* re, const T* im, T* ore, T* oim, size_t n, size_t L, const T* tw) {
+  auto in_place = [&](T* HWY_RESTRICT r, T* HWY_RESTRICT i) { Radix4Body<S, INV>(d, r, i, r, i, n, L, tw); };
+  auto apart = [&](const T* HWY_RESTRICT r, const T* HWY_RESTRICT i, T* HWY_RESTRICT orr,
+                   T* HWY_RESTRICT oi) { Radix4Body<S, INV>(d, r, i, orr, oi, n, L, tw); };
+  if (ore == re) in_place(ore, oim);
+  else apart(re, im, ore, oim);
+}
+template <int S, bool INV, class D, class T>
+void Radix4x2Rows(D d, const T* re, const T* im, T* ore, T* oim, size_t n, size_t L, const T* tw,
+                  const T* tw4) {
+  auto in_place = [&](T* HWY_RESTRICT r, T* HWY_RESTRICT i) {
+    Radix4x2Body<S, INV>(d, r, i, r, i, n, L, tw, tw4);
+  };
+  auto apart = [&](const T* HWY_RESTRICT r, const T* HWY_RESTRICT i, T* HWY_RESTRICT orr,
+                   T* HWY_RESTRICT oi) { Radix4x2Body<S, INV>(d, r, i, orr, oi, n, L, tw, tw4); };
+  if (ore == re) in_place(ore, oim);
+  else apart(re, im, ore, oim);
 }
 
 // Bit reversal of 3 and 4 bits.
@@ -561,7 +585,8 @@ HWY_INLINE void StoreTransposed(const O& o, C* u, const size_t* base, size_t g, 
 // (the rows of a stepped level, see fft.h).
 template <size_t B, bool INV, int S, class D, class T>
 void LeadBlocks(D d, const T* sre, const T* sim, T* dre, T* dim, size_t n,
-                const scalar::BitRev& rev, bool fused, size_t r0, size_t stride, size_t width) {
+                const scalar::BitRev& rev, bool fused, size_t r0, size_t stride, size_t width,
+                const scalar::RowMap& map = scalar::RowMap()) {
   const CxOps<D, S, INV> o(d);
   using C = typename CxOps<D, S, INV>::C;
   const size_t V = hn::Lanes(d) / S;
@@ -578,7 +603,7 @@ void LeadBlocks(D d, const T* sre, const T* sim, T* dre, T* dim, size_t n,
       if (fused) {
         for (size_t s = 0; s < B; ++s) y[s] = o.load(sre, sim, r + s * cnt);
         const size_t high = rev(B * r);
-        for (size_t i = 0; i < V; ++i) base[i] = B * (high | low[i]);
+        for (size_t i = 0; i < V; ++i) base[i] = map(B * (high | low[i]));
       } else {
         for (size_t i = 0; i < V; ++i) base[i] = B * (r + i);
         for (size_t g = 0; g < B; g += V) {
@@ -848,51 +873,54 @@ struct VecPasses : scalar::Passes<T, S> {
   using DG = hn::CappedTag<T, kGroup>;
 
   template <bool INV>
-  static void radix4_t(T* re, T* im, size_t n, size_t L, const T* tw) {
+  static void radix4_t(const T* re, const T* im, T* ore, T* oim, size_t n, size_t L, const T* tw) {
     const size_t q = L / 4;
     const hn::ScalableTag<T> dz;
     const hn::CappedTag<T, 32 / sizeof(T)> df;
     const hn::CappedTag<T, 4> d4;
     const hn::CappedTag<T, 2> d2;
     if (q * S >= hn::Lanes(dz)) {
-      Radix4Rows<S, INV>(dz, re, im, n, L, tw);
+      Radix4Rows<S, INV>(dz, re, im, ore, oim, n, L, tw);
     } else if (q * S >= hn::Lanes(df)) {
-      Radix4Rows<S, INV>(df, re, im, n, L, tw);
+      Radix4Rows<S, INV>(df, re, im, ore, oim, n, L, tw);
     } else if (q * S >= hn::Lanes(d4) && hn::Lanes(d4) >= size_t(S)) {
-      Radix4Rows<S, INV>(d4, re, im, n, L, tw);
+      Radix4Rows<S, INV>(d4, re, im, ore, oim, n, L, tw);
     } else if (q * S >= hn::Lanes(d2) && hn::Lanes(d2) >= size_t(S)) {
-      Radix4Rows<S, INV>(d2, re, im, n, L, tw);
+      Radix4Rows<S, INV>(d2, re, im, ore, oim, n, L, tw);
     } else {
-      Base::radix4_range(re, im, n, L, tw, INV, 0);
+      Base::radix4_range(re, im, ore, oim, n, L, tw, INV, 0);
     }
   }
-  static void radix4(T* re, T* im, size_t n, size_t L, const T* tw, bool inv) {
-    if (inv) radix4_t<true>(re, im, n, L, tw);
-    else radix4_t<false>(re, im, n, L, tw);
+  static void radix4(const T* re, const T* im, T* ore, T* oim, size_t n, size_t L, const T* tw,
+                     bool inv) {
+    if (inv) radix4_t<true>(re, im, ore, oim, n, L, tw);
+    else radix4_t<false>(re, im, ore, oim, n, L, tw);
   }
 
   template <bool INV>
-  static void radix4x2_t(T* re, T* im, size_t n, size_t L, const T* tw, const T* tw4) {
+  static void radix4x2_t(const T* re, const T* im, T* ore, T* oim, size_t n, size_t L, const T* tw,
+                         const T* tw4) {
     const size_t q = L / 4;
     const hn::ScalableTag<T> dz;
     const hn::CappedTag<T, 32 / sizeof(T)> df;
     const hn::CappedTag<T, 4> d4;
     const hn::CappedTag<T, 2> d2;
     if (q * S >= hn::Lanes(dz)) {
-      Radix4x2Rows<S, INV>(dz, re, im, n, L, tw, tw4);
+      Radix4x2Rows<S, INV>(dz, re, im, ore, oim, n, L, tw, tw4);
     } else if (q * S >= hn::Lanes(df)) {
-      Radix4x2Rows<S, INV>(df, re, im, n, L, tw, tw4);
+      Radix4x2Rows<S, INV>(df, re, im, ore, oim, n, L, tw, tw4);
     } else if (q * S >= hn::Lanes(d4) && hn::Lanes(d4) >= size_t(S)) {
-      Radix4x2Rows<S, INV>(d4, re, im, n, L, tw, tw4);
+      Radix4x2Rows<S, INV>(d4, re, im, ore, oim, n, L, tw, tw4);
     } else if (q * S >= hn::Lanes(d2) && hn::Lanes(d2) >= size_t(S)) {
-      Radix4x2Rows<S, INV>(d2, re, im, n, L, tw, tw4);
+      Radix4x2Rows<S, INV>(d2, re, im, ore, oim, n, L, tw, tw4);
     } else {
-      Base::radix4x2(re, im, n, L, tw, tw4, INV);
+      Base::radix4x2(re, im, ore, oim, n, L, tw, tw4, INV);
     }
   }
-  static void radix4x2(T* re, T* im, size_t n, size_t L, const T* tw, const T* tw4, bool inv) {
-    if (inv) radix4x2_t<true>(re, im, n, L, tw, tw4);
-    else radix4x2_t<false>(re, im, n, L, tw, tw4);
+  static void radix4x2(const T* re, const T* im, T* ore, T* oim, size_t n, size_t L, const T* tw,
+                       const T* tw4, bool inv) {
+    if (inv) radix4x2_t<true>(re, im, ore, oim, n, L, tw, tw4);
+    else radix4x2_t<false>(re, im, ore, oim, n, L, tw, tw4);
   }
 
   // ---- First pass: B-point blocks in registers. Returns the block length
@@ -930,7 +958,7 @@ struct VecPasses : scalar::Passes<T, S> {
   template <bool INV>
   static size_t lead_t(const T* sre, const T* sim, T* dre, T* dim, size_t n, int leaf,
                        const scalar::BitRev& rev, bool fused, const T* first, size_t r0,
-                       size_t stride) {
+                       size_t stride, const scalar::RowMap& map) {
     if (S == 2 && fused && stride == 0 && hn::Lanes(DL4()) == 8 && n <= 64) {
       Codelet<INV>(DL4(), sre, dre, n, first);
       return n;
@@ -938,12 +966,12 @@ struct VecPasses : scalar::Passes<T, S> {
     const bool odd = leaf & 1;
     auto run = [&](auto d) {
       const size_t width = stride ? lead_lanes(n, leaf) : 0;
-      if (odd) LeadBlocks<8, INV, S>(d, sre, sim, dre, dim, n, rev, fused, r0, stride, width);
-      else LeadBlocks<16, INV, S>(d, sre, sim, dre, dim, n, rev, fused, r0, stride, width);
+      if (odd) LeadBlocks<8, INV, S>(d, sre, sim, dre, dim, n, rev, fused, r0, stride, width, map);
+      else LeadBlocks<16, INV, S>(d, sre, sim, dre, dim, n, rev, fused, r0, stride, width, map);
     };
     switch (lead_tag(n, leaf, stride)) {
       case LeadTag::kScalar:
-        return Base::lead(sre, sim, dre, dim, n, leaf, rev, fused, INV, first, r0, stride);
+        return Base::lead(sre, sim, dre, dim, n, leaf, rev, fused, INV, first, r0, stride, map);
       case LeadTag::kWide:
         if constexpr (S == 2) run(DLW());
         break;
@@ -962,113 +990,9 @@ struct VecPasses : scalar::Passes<T, S> {
   }
   static size_t lead(const T* sre, const T* sim, T* dre, T* dim, size_t n, int leaf,
                      const scalar::BitRev& rev, bool fused, bool inv, const T* first,
-                     size_t r0 = 0, size_t stride = 0) {
-    return inv ? lead_t<true>(sre, sim, dre, dim, n, leaf, rev, fused, first, r0, stride)
-               : lead_t<false>(sre, sim, dre, dim, n, leaf, rev, fused, first, r0, stride);
-  }
-
-  // ---- First pass fused with the permutation (interleaved layout). Lane i
-  // of a vector belongs to output block rev(r + i); the blocks' elements are
-  // regrouped by 64-bit interleaves (one complex float per 64-bit unit) and
-  // stored 16 bytes at a time. Double precision uses one complex per vector.
-  template <class D, class V>
-  static void store_blocks(D d, T* dst, const size_t* m, V y0, V y1, V y2, V y3, bool four) {
-    if constexpr (sizeof(T) == 8) {
-      (void)d;
-      hn::StoreU(y0, d, dst + 2 * m[0]);
-      hn::StoreU(y1, d, dst + 2 * m[0] + 2);
-      if (four) {
-        hn::StoreU(y2, d, dst + 2 * m[0] + 4);
-        hn::StoreU(y3, d, dst + 2 * m[0] + 6);
-      }
-    } else {
-      const hn::Repartition<uint64_t, D> du;
-      const hn::Half<decltype(du)> dh;
-      auto* out = reinterpret_cast<uint64_t*>(dst);  // one unit per complex
-      const auto a0 = hn::BitCast(du, y0), a1 = hn::BitCast(du, y1);
-      const auto t0 = hn::InterleaveLower(du, a0, a1), t1 = hn::InterleaveUpper(du, a0, a1);
-      if (hn::Lanes(du) == 2) {
-        if (four) {
-          const auto a2 = hn::BitCast(du, y2), a3 = hn::BitCast(du, y3);
-          const auto t2 = hn::InterleaveLower(du, a2, a3), t3 = hn::InterleaveUpper(du, a2, a3);
-          hn::StoreU(t0, du, out + m[0]);
-          hn::StoreU(t2, du, out + m[0] + 2);
-          hn::StoreU(t1, du, out + m[1]);
-          hn::StoreU(t3, du, out + m[1] + 2);
-        } else {
-          hn::StoreU(t0, du, out + m[0]);
-          hn::StoreU(t1, du, out + m[1]);
-        }
-      } else {
-        // 256-bit: 128-bit halves hold lanes (0, 2) and (1, 3).
-        const auto t0l = hn::LowerHalf(t0), t0u = hn::UpperHalf(dh, t0);
-        const auto t1l = hn::LowerHalf(t1), t1u = hn::UpperHalf(dh, t1);
-        if (four) {
-          const auto a2 = hn::BitCast(du, y2), a3 = hn::BitCast(du, y3);
-          const auto t2 = hn::InterleaveLower(du, a2, a3), t3 = hn::InterleaveUpper(du, a2, a3);
-          hn::StoreU(t0l, dh, out + m[0]);
-          hn::StoreU(hn::LowerHalf(t2), dh, out + m[0] + 2);
-          hn::StoreU(t1l, dh, out + m[1]);
-          hn::StoreU(hn::LowerHalf(t3), dh, out + m[1] + 2);
-          hn::StoreU(t0u, dh, out + m[2]);
-          hn::StoreU(hn::UpperHalf(dh, t2), dh, out + m[2] + 2);
-          hn::StoreU(t1u, dh, out + m[3]);
-          hn::StoreU(hn::UpperHalf(dh, t3), dh, out + m[3] + 2);
-        } else {
-          hn::StoreU(t0l, dh, out + m[0]);
-          hn::StoreU(t1l, dh, out + m[1]);
-          hn::StoreU(t0u, dh, out + m[2]);
-          hn::StoreU(t1u, dh, out + m[3]);
-        }
-      }
-    }
-  }
-
-  // Tag of the fused first pass: 128 or 256 bits of complex floats, one
-  // complex double.
-  using DF = hn::CappedTag<T, sizeof(T) == 4 ? 8 : 2>;
-
-  template <bool INV>
-  static void first4_fused_t(const T* src, T* dst, size_t n, const scalar::BitRev& rev) {
-    const DF d;
-    const CxOps<DF, 2, INV> o(d);
-    const size_t V = hn::Lanes(d) / 2, q = n / 4;
-    size_t r = 0;
-    if (q >= V) {
-      for (; r < q; r += V) {
-        size_t m[4];
-        for (size_t i = 0; i < V; ++i) m[i] = rev(r + i);
-        auto x0 = o.load(src, nullptr, r), x1 = o.load(src, nullptr, r + 2 * q);
-        auto x2 = o.load(src, nullptr, r + q), x3 = o.load(src, nullptr, r + 3 * q);
-        Bfly4(o, x0, x1, x2, x3);
-        store_blocks(d, dst, m, x0.v, x1.v, x2.v, x3.v, true);
-      }
-    }
-    Base::first4_fused(src, src + 1, dst, dst + 1, n, rev, INV, r);
-  }
-  static void first4_fused(const T* sre, const T* sim, T* dre, T* dim, size_t n,
-                           const scalar::BitRev& rev, bool inv) {
-    if (S != 2) return Base::first4_fused(sre, sim, dre, dim, n, rev, inv);
-    if (inv) first4_fused_t<true>(sre, dre, n, rev);
-    else first4_fused_t<false>(sre, dre, n, rev);
-  }
-  static void first2_fused(const T* sre, const T* sim, T* dre, T* dim, size_t n,
-                           const scalar::BitRev& rev) {
-    if (S != 2) return Base::first2_fused(sre, sim, dre, dim, n, rev);
-    const DF d;
-    const CxOps<DF, 2, false> o(d);
-    const size_t V = hn::Lanes(d) / 2, h = n / 2;
-    size_t r = 0;
-    if (h >= V) {
-      for (; r < h; r += V) {
-        size_t m[4];
-        for (size_t i = 0; i < V; ++i) m[i] = rev(r + i);
-        const auto x0 = o.load(sre, nullptr, r), x1 = o.load(sre, nullptr, r + h);
-        const auto y0 = o.add(x0, x1), y1 = o.sub(x0, x1);
-        store_blocks(d, dre, m, y0.v, y1.v, y1.v, y1.v, false);
-      }
-    }
-    Base::first2_fused(sre, sim, dre, dim, n, rev, r);
+                     size_t r0 = 0, size_t stride = 0, const scalar::RowMap& map = scalar::RowMap()) {
+    return inv ? lead_t<true>(sre, sim, dre, dim, n, leaf, rev, fused, first, r0, stride, map)
+               : lead_t<false>(sre, sim, dre, dim, n, leaf, rev, fused, first, r0, stride, map);
   }
 
   // Twiddles tab[S * stride * q] for the lanes q.. of a vector (stride 1 or
@@ -1093,30 +1017,32 @@ struct VecPasses : scalar::Passes<T, S> {
   using DC = hn::CappedTag<T, sizeof(T) == 8 && S == 2 ? 2 : 32 / sizeof(T)>;
 
   template <bool INV, class D>
-  static void combine2_t(D d, T* re, T* im, size_t h, const T* tab, size_t c, size_t stride) {
+  static void combine2_t(D d, const T* re, const T* im, T* ore, T* oim, size_t h, const T* tab,
+                         size_t c, size_t stride) {
     const CxOps<D, S, INV> o(d);
     const size_t step = hn::Lanes(d) / S;
     const T* tabi = scalar::block_im<T, S>(tab, c);
     for (size_t q = 0; q < h; q += step) {
       const auto e = o.load(re, im, q);
       const auto od = o.mul(o.load(re, im, q + h), load_tw(d, o, tab, tabi, q, stride));
-      o.store(re, im, q, o.add(e, od));
-      o.store(re, im, q + h, o.sub(e, od));
+      o.store(ore, oim, q, o.add(e, od));
+      o.store(ore, oim, q + h, o.sub(e, od));
     }
   }
   // Consecutive twiddles (stride 1) run at full width.
-  static void combine2(T* re, T* im, size_t h, const T* tab, size_t c, size_t stride, bool inv) {
+  static void combine2(const T* re, const T* im, T* ore, T* oim, size_t h, const T* tab, size_t c,
+                       size_t stride, bool inv) {
     const DC d;
     const hn::ScalableTag<T> dz;
     if (stride == 1 && h * S >= 2 * hn::Lanes(dz)) {
-      if (inv) combine2_t<true>(dz, re, im, h, tab, c, stride);
-      else combine2_t<false>(dz, re, im, h, tab, c, stride);
+      if (inv) combine2_t<true>(dz, re, im, ore, oim, h, tab, c, stride);
+      else combine2_t<false>(dz, re, im, ore, oim, h, tab, c, stride);
     } else if (stride > 2 || h * S < 2 * hn::Lanes(d)) {
-      Base::combine2(re, im, h, tab, c, stride, inv);
+      Base::combine2(re, im, ore, oim, h, tab, c, stride, inv);
     } else if (inv) {
-      combine2_t<true>(d, re, im, h, tab, c, stride);
+      combine2_t<true>(d, re, im, ore, oim, h, tab, c, stride);
     } else {
-      combine2_t<false>(d, re, im, h, tab, c, stride);
+      combine2_t<false>(d, re, im, ore, oim, h, tab, c, stride);
     }
   }
 
@@ -1146,7 +1072,8 @@ struct VecPasses : scalar::Passes<T, S> {
   }
 
   template <bool INV, class D>
-  static size_t combine4_t(D d, T* re, T* im, size_t Q, const T* tab, size_t c) {
+  static size_t combine4_t(D d, const T* re, const T* im, T* ore, T* oim, size_t Q, const T* tab,
+                           size_t c) {
     const CxOps<D, S, INV> o(d);
     using C = typename CxOps<D, S, INV>::C;
     const size_t step = hn::Lanes(d) / S;
@@ -1167,17 +1094,19 @@ struct VecPasses : scalar::Passes<T, S> {
       const C f1 = o.mul_w(o.add(c0, e), w), g2 = o.mul_w(o.sub(c0, e), w);
       C x1, x3;
       o.add_rot(e2, g2, x1, x3);
-      o.store(re, im, q, o.add(e1, f1));
-      o.store(re, im, q + 2 * Q, o.sub(e1, f1));
-      o.store(re, im, q + Q, x1);
-      o.store(re, im, q + 3 * Q, x3);
+      o.store(ore, oim, q, o.add(e1, f1));
+      o.store(ore, oim, q + 2 * Q, o.sub(e1, f1));
+      o.store(ore, oim, q + Q, x1);
+      o.store(ore, oim, q + 3 * Q, x3);
     }
     return q;
   }
-  static void combine4(T* re, T* im, size_t Q, const T* tab, size_t c, bool inv) {
+  static void combine4(const T* re, const T* im, T* ore, T* oim, size_t Q, const T* tab, size_t c,
+                       bool inv) {
     const hn::ScalableTag<T> d;
-    const size_t done = inv ? combine4_t<true>(d, re, im, Q, tab, c) : combine4_t<false>(d, re, im, Q, tab, c);
-    Base::combine4(re, im, Q, tab, c, inv, done);
+    const size_t done = inv ? combine4_t<true>(d, re, im, ore, oim, Q, tab, c)
+                            : combine4_t<false>(d, re, im, ore, oim, Q, tab, c);
+    Base::combine4(re, im, ore, oim, Q, tab, c, inv, done);
   }
 
   static void scale(T* re, T* im, size_t n, T s) {
@@ -1427,24 +1356,31 @@ void Run(const FftPlan<T>& p, const FftArgs<T>& a) {
 template <class D, bool INV>
 struct FixedWidthStages {
   template <class T>
-  static void radix4(T* re, T* im, size_t n, size_t L, const T* tw, bool) {
-    Radix4Rows<2, INV>(D(), re, im, n, L, tw);
+  static void radix4(const T* re, const T* im, T* ore, T* oim, size_t n, size_t L, const T* tw, bool) {
+    Radix4Rows<2, INV>(D(), re, im, ore, oim, n, L, tw);
   }
   template <class T>
-  static void radix4x2(T* re, T* im, size_t n, size_t L, const T* tw, const T* tw4, bool) {
-    Radix4x2Rows<2, INV>(D(), re, im, n, L, tw, tw4);
+  static void radix4x2(const T* re, const T* im, T* ore, T* oim, size_t n, size_t L, const T* tw,
+                       const T* tw4, bool) {
+    Radix4x2Rows<2, INV>(D(), re, im, ore, oim, n, L, tw, tw4);
   }
 };
 
 // A single leaf of order >= 7, out of place, at one vector width: the
-// fused first pass, then the radix-4 stages (pairs in one pass).
+// fused first pass, then the radix-4 stages (pairs in one pass). With a
+// destination off a 64-byte line every full-width access would touch two
+// lines, so the passes before the last one run in an aligned stack area and
+// only the last stage's stores straddle lines.
 template <bool INV, class D, class T>
 void LeafDirect(D d, const T* src, T* dst, int order, const T* first, const uint32_t* rev) {
   const size_t n = size_t(1) << order;
   const scalar::BitRev br(rev, order);
-  if (order & 1) LeadBlocks<8, INV, 2>(d, src, src + 1, dst, dst + 1, n, br, true, 0, 0, 0);
-  else LeadBlocks<16, INV, 2>(d, src, src + 1, dst, dst + 1, n, br, true, 0, 0, 0);
-  scalar::leaf_stages<T, FixedWidthStages<D, INV>>(dst, dst + 1, order, order & 1 ? 8 : 16, first, INV);
+  alignas(64) T scratch[scalar::kScratchBytes / sizeof(T)];
+  T* mid = scalar::off_line(dst) && 2 * n * sizeof(T) <= sizeof(scratch) ? scratch : dst;
+  if (order & 1) LeadBlocks<8, INV, 2>(d, src, src + 1, mid, mid + 1, n, br, true, 0, 0, 0);
+  else LeadBlocks<16, INV, 2>(d, src, src + 1, mid, mid + 1, n, br, true, 0, 0, 0);
+  scalar::leaf_stages<T, FixedWidthStages<D, INV>>(mid, mid + 1, order, order & 1 ? 8 : 16, first, INV,
+                                                   dst, dst + 1);
 }
 
 template <class T>

@@ -147,6 +147,18 @@ struct BitRev {
   }
 };
 
+// Where the first pass stores the block that starts at element x: at x,
+// or, for a scratch area that holds G = 2^g rows of M = 2^m elements of a
+// stepped level (rows whose numbers differ in their top g bits only), at
+// (x >> top) M + x mod M with top = order - g.
+struct RowMap {
+  int top = 0;  // 0: no remapping
+  int m = 0;
+  std::size_t operator()(std::size_t x) const {
+    return top ? ((x >> top) << m) | (x & ((std::size_t(1) << m) - 1)) : x;
+  }
+};
+
 template <class T, int S>
 struct Passes {
   // Radix-2 pass on adjacent pairs of n elements (first pass of odd orders).
@@ -188,10 +200,11 @@ struct Passes {
   // (4 elements) holds the 4-point transform of src[r + {0, N/2, N/4, 3N/4}],
   // r = rev(4m) / 4; iterated over r so the reads run sequentially.
   static void first4_fused(const T* sre, const T* sim, T* dre, T* dim, std::size_t n,
-                           const BitRev& rev, bool inv, std::size_t r0 = 0, std::size_t stride = 1) {
+                           const BitRev& rev, bool inv, std::size_t r0, std::size_t stride,
+                           const RowMap& map) {
     const std::size_t q = n / 4;
     for (std::size_t r = r0; r < q; r += stride) {
-      const std::size_t m4 = rev(r);
+      const std::size_t m4 = map(rev(r));
       Cx<T> x0 = ld<T, S>(sre, sim, r), x1 = ld<T, S>(sre, sim, r + 2 * q);
       Cx<T> x2 = ld<T, S>(sre, sim, r + q), x3 = ld<T, S>(sre, sim, r + 3 * q);
       bfly4(x0, x1, x2, x3, inv);
@@ -203,10 +216,10 @@ struct Passes {
   }
   // Same for the radix-2 first pass of odd orders: block 2m = rev(r).
   static void first2_fused(const T* sre, const T* sim, T* dre, T* dim, std::size_t n,
-                           const BitRev& rev, std::size_t r0 = 0, std::size_t stride = 1) {
+                           const BitRev& rev, std::size_t r0, std::size_t stride, const RowMap& map) {
     const std::size_t h = n / 2;
     for (std::size_t r = r0; r < h; r += stride) {
-      const std::size_t m2 = rev(r);
+      const std::size_t m2 = map(rev(r));
       const Cx<T> a = ld<T, S>(sre, sim, r), b = ld<T, S>(sre, sim, r + h);
       st<T, S>(dre, dim, m2, add(a, b));
       st<T, S>(dre, dim, m2 + 1, sub(a, b));
@@ -218,25 +231,26 @@ struct Passes {
   // permutation when the data are read from a separate source, else on the
   // permuted destination. Returns the block length transformed. A fused pass
   // with a stride runs only the blocks r0 + j stride + (0 .. lead_lanes - 1)
-  // (the rows of a stepped level).
+  // (the rows of a stepped level), stored where `map` says.
   static std::size_t lead(const T* sre, const T* sim, T* dre, T* dim, std::size_t n, int leaf,
                           const BitRev& rev, bool fused, bool inv, const T* /*first*/,
-                          std::size_t r0 = 0, std::size_t stride = 0) {
+                          std::size_t r0 = 0, std::size_t stride = 0, const RowMap& map = RowMap()) {
     if (leaf & 1) {
-      if (fused) first2_fused(sre, sim, dre, dim, n, rev, r0, stride ? stride : 1);
+      if (fused) first2_fused(sre, sim, dre, dim, n, rev, r0, stride ? stride : 1, map);
       else radix2(dre, dim, n);
       return 2;
     }
-    if (fused) first4_fused(sre, sim, dre, dim, n, rev, inv, r0, stride ? stride : 1);
+    if (fused) first4_fused(sre, sim, dre, dim, n, rev, inv, r0, stride ? stride : 1, map);
     else radix4_first(dre, dim, n, inv);
     return 4;
   }
   static std::size_t lead_lanes(std::size_t, int) { return 1; }
 
   // One radix-4 stage of length L (>= 8) over n elements, twiddles from the
-  // stage block tw (3L/4 entries), for butterfly indices j0 <= j < q.
-  static void radix4_range(T* re, T* im, std::size_t n, std::size_t L, const T* tw, bool inv,
-                           std::size_t j0) {
+  // stage block tw (3L/4 entries), for butterfly indices j0 <= j < q. The
+  // results go to (ore, oim), which is either (re, im) or a separate array.
+  static void radix4_range(const T* re, const T* im, T* ore, T* oim, std::size_t n, std::size_t L,
+                           const T* tw, bool inv, std::size_t j0) {
     const std::size_t q = L / 4;
     const T* twi = block_im<T, S>(tw, 3 * q);
     for (std::size_t b = 0; b < n; b += L) {
@@ -247,28 +261,30 @@ struct Passes {
         Cx<T> x2 = mul(ld<T, S>(re, im, i + 2 * q), ld<T, S>(tw, twi, j), inv);
         Cx<T> x3 = mul(ld<T, S>(re, im, i + 3 * q), ld<T, S>(tw, twi, 2 * q + j), inv);
         bfly4(x0, x1, x2, x3, inv);
-        st<T, S>(re, im, i, x0);
-        st<T, S>(re, im, i + q, x1);
-        st<T, S>(re, im, i + 2 * q, x2);
-        st<T, S>(re, im, i + 3 * q, x3);
+        st<T, S>(ore, oim, i, x0);
+        st<T, S>(ore, oim, i + q, x1);
+        st<T, S>(ore, oim, i + 2 * q, x2);
+        st<T, S>(ore, oim, i + 3 * q, x3);
       }
     }
   }
-  static void radix4(T* re, T* im, std::size_t n, std::size_t L, const T* tw, bool inv) {
-    radix4_range(re, im, n, L, tw, inv, 0);
+  static void radix4(const T* re, const T* im, T* ore, T* oim, std::size_t n, std::size_t L,
+                     const T* tw, bool inv) {
+    radix4_range(re, im, ore, oim, n, L, tw, inv, 0);
   }
   // Two consecutive stages L and 4L (tables tw and tw4).
-  static void radix4x2(T* re, T* im, std::size_t n, std::size_t L, const T* tw, const T* tw4,
-                       bool inv) {
-    radix4_range(re, im, n, L, tw, inv, 0);
-    radix4_range(re, im, n, 4 * L, tw4, inv, 0);
+  static void radix4x2(const T* re, const T* im, T* ore, T* oim, std::size_t n, std::size_t L,
+                       const T* tw, const T* tw4, bool inv) {
+    radix4_range(re, im, ore, oim, n, L, tw, inv, 0);
+    radix4_range(ore, oim, ore, oim, n, 4 * L, tw4, inv, 0);
   }
 
   // Two radix-2 combines in one pass: the four transformed quarters A, B, C,
   // D of Q elements form the halves E = (A, B) and F = (C, D) with the
   // twiddles tab[2q], then the whole with tab[q] (w^(q+Q) = -i w^q).
-  static void combine4(T* re, T* im, std::size_t Q, const T* tab, std::size_t c, bool inv,
-                       std::size_t q0 = 0) {
+  // The results go to (ore, oim), which is (re, im) or a separate array.
+  static void combine4(const T* re, const T* im, T* ore, T* oim, std::size_t Q, const T* tab,
+                       std::size_t c, bool inv, std::size_t q0 = 0) {
     const T* tabi = block_im<T, S>(tab, c);
     for (std::size_t q = q0; q < Q; ++q) {
       const Cx<T> w1 = ld<T, S>(tab, tabi, 2 * q), w = ld<T, S>(tab, tabi, q);
@@ -276,23 +292,24 @@ struct Passes {
       const Cx<T> c0 = ld<T, S>(re, im, q + 2 * Q), e = mul(ld<T, S>(re, im, q + 3 * Q), w1, inv);
       const Cx<T> e1 = add(a0, b), e2 = sub(a0, b);
       const Cx<T> f1 = mul(add(c0, e), w, inv), f2 = rot(mul(sub(c0, e), w, inv), inv);
-      st<T, S>(re, im, q, add(e1, f1));
-      st<T, S>(re, im, q + 2 * Q, sub(e1, f1));
-      st<T, S>(re, im, q + Q, add(e2, f2));
-      st<T, S>(re, im, q + 3 * Q, sub(e2, f2));
+      st<T, S>(ore, oim, q, add(e1, f1));
+      st<T, S>(ore, oim, q + 2 * Q, sub(e1, f1));
+      st<T, S>(ore, oim, q + Q, add(e2, f2));
+      st<T, S>(ore, oim, q + 3 * Q, sub(e2, f2));
     }
   }
 
   // Radix-2 combine of two transformed halves of h elements each with the
-  // twiddles tab[q * stride] of a second-level block of c entries.
-  static void combine2(T* re, T* im, std::size_t h, const T* tab, std::size_t c,
-                       std::size_t stride, bool inv) {
+  // twiddles tab[q * stride] of a second-level block of c entries, for
+  // q0 <= q < h, into (ore, oim).
+  static void combine2(const T* re, const T* im, T* ore, T* oim, std::size_t h, const T* tab,
+                       std::size_t c, std::size_t stride, bool inv, std::size_t q0 = 0) {
     const T* tabi = block_im<T, S>(tab, c);
-    for (std::size_t q = 0; q < h; ++q) {
+    for (std::size_t q = q0; q < h; ++q) {
       const Cx<T> e = ld<T, S>(re, im, q);
       const Cx<T> o = mul(ld<T, S>(re, im, q + h), ld<T, S>(tab, tabi, q * stride), inv);
-      st<T, S>(re, im, q, add(e, o));
-      st<T, S>(re, im, q + h, sub(e, o));
+      st<T, S>(ore, oim, q, add(e, o));
+      st<T, S>(ore, oim, q + h, sub(e, o));
     }
   }
 
@@ -434,9 +451,12 @@ void permute(const E* src, E* dst, int order) {
 }
 
 // The radix-4 stages of a leaf of order n after the first pass transformed
-// blocks of `lead` points; `first` is the leaf's first-level table.
+// blocks of `lead` points; `first` is the leaf's first-level table. The
+// stages run in place on (re, im) except the last, which writes to
+// (ore, oim); the caller makes sure there is at least one stage when these
+// differ.
 template <class T, class P>
-void leaf_stages(T* re, T* im, int n, std::size_t lead, const T* first, bool inv) {
+void leaf_stages(T* re, T* im, int n, std::size_t lead, const T* first, bool inv, T* ore, T* oim) {
   const std::size_t N = std::size_t(1) << n;
   std::size_t L = 4 * lead;
   const T* tw = first + stage_offset(n, L);
@@ -445,15 +465,21 @@ void leaf_stages(T* re, T* im, int n, std::size_t lead, const T* first, bool inv
   // An odd number of stages runs the first one alone; the others go in
   // pairs, each pair one pass over the data.
   if (stages % 2 == 1) {
-    P::radix4(re, im, N, L, tw, inv);
+    const bool last = stages == 1;
+    P::radix4(re, im, last ? ore : re, last ? oim : im, N, L, tw, inv);
     tw += 2 * (3 * L / 4);
     L *= 4;
   }
   for (; L <= N; L *= 16) {
     const T* tw4 = tw + 2 * (3 * L / 4);
-    P::radix4x2(re, im, N, L, tw, tw4, inv);
+    const bool last = 16 * L > N;
+    P::radix4x2(re, im, last ? ore : re, last ? oim : im, N, L, tw, tw4, inv);
     tw = tw4 + 2 * (3 * L);
   }
+}
+template <class T, class P>
+void leaf_stages(T* re, T* im, int n, std::size_t lead, const T* first, bool inv) {
+  leaf_stages<T, P>(re, im, n, lead, first, inv, re, im);
 }
 
 template <class T>
@@ -461,7 +487,21 @@ struct Pair {
   T a, b;
 };
 
+// Bytes of the aligned stack area that takes the passes before the last one
+// when the destination is off a 64-byte line.
+constexpr std::size_t kScratchBytes = 32768;
+
+// True when full-width vector accesses at p straddle two cache lines.
+inline bool off_line(const void* p) { return (reinterpret_cast<std::uintptr_t>(p) & 63) != 0; }
+
 // The transform driver, written once over layout and pass policy.
+//
+// A destination off a 64-byte line makes every full-width access touch two
+// lines. When the data fit (a single leaf or the two-level scheme), or a
+// group of rows of the only stepped level fits, the first pass and every
+// pass but the last run in an aligned stack area instead, and the last pass
+// writes the destination; the source is then read only by the first pass,
+// so in-place calls need no copy either.
 template <class T, int S, class P>
 struct Engine {
   const FftPlan<T>& p;
@@ -474,11 +514,23 @@ struct Engine {
   const T* sr_ = nullptr;
   const T* si_ = nullptr;
   BitRev rev_{nullptr, 0};
+  T* scr_ = nullptr;  // the aligned area of the rows, or null
 
   void run() {
+    alignas(64) T scratch[kScratchBytes / sizeof(T)];
     const std::size_t n = std::size_t(1) << p.order;
     const T* sr = a.src_re;
     const T* si = a.src_im;
+    const BitRev rev(p.rev, p.order);
+    rows_ = p.levels == 1 && p.two_level == 0;
+    const bool off = off_line(a.dst_re) || (S == 1 && off_line(a.dst_im));
+    if (off && p.order <= p.leaf && p.order >= 7 && 2 * n * sizeof(T) <= kScratchBytes) {
+      T* wre = scratch;
+      T* wim = S == 2 ? scratch + 1 : scratch + n;
+      lead_ = P::lead(sr, si, wre, wim, n, p.leaf, rev, true, a.inverse, p.first);
+      block(wre, wim, p.order, 0, a.dst_re, a.dst_im);
+      return;
+    }
     // Orders up to the leaf size copy an in-place input to the work buffer
     // first, so the permutation can be fused with the first pass.
     const bool small = p.order <= p.leaf && a.work != nullptr;
@@ -496,7 +548,6 @@ struct Engine {
         si = a.work + n;
       }
     }
-    const BitRev rev(p.rev, p.order);
     const bool fused = sr != a.dst_re && si != a.dst_im;
     if (!fused) {
       if (S == 2) {
@@ -508,41 +559,50 @@ struct Engine {
         permute(si, a.dst_im, p.order);
       }
     }
-    rows_ = p.levels == 1 && p.two_level == 0;
     if (rows_) {
       fused_ = fused;
       sr_ = sr;
       si_ = si;
       rev_ = rev;
+      const std::size_t M = std::size_t(1) << (p.order - p.step[0].k);
+      const std::size_t rows = P::lead_lanes(n, p.leaf);
+      if (off && fused && M >= 128 && 2 * rows * M * sizeof(T) <= kScratchBytes) scr_ = scratch;
     } else {
       lead_ = P::lead(sr, si, a.dst_re, a.dst_im, n, p.leaf, rev, fused, a.inverse, p.first);
     }
-    block(a.dst_re, a.dst_im, p.order, 0);
+    block(a.dst_re, a.dst_im, p.order, 0, a.dst_re, a.dst_im);
   }
 
   // A leaf of order n: the radix-4 stages after the blocks of lead_ points
-  // that the first pass transformed over the whole array, then the scaling.
-  void leaf(T* re, T* im, int n) {
-    leaf_stages<T, P>(re, im, n, lead_, p.first, a.inverse);
-    if (a.scaled) P::scale(re, im, std::size_t(1) << n, a.scale);
+  // that the first pass transformed over the whole array, the last one into
+  // (ore, oim), then the scaling.
+  void leaf(T* re, T* im, int n, T* ore, T* oim) {
+    leaf_stages<T, P>(re, im, n, lead_, p.first, a.inverse, ore, oim);
+    if (a.scaled) P::scale(ore, oim, std::size_t(1) << n, a.scale);
   }
 
-  void block(T* re, T* im, int n, int level) {
+  // Transforms the block of order n at (re, im); its last pass writes
+  // (ore, oim), which differs from (re, im) only outside the stepped scheme.
+  void block(T* re, T* im, int n, int level, T* ore, T* oim) {
     if (level < p.levels && level < 3 && p.step[level].order == n) {
       stepped(re, im, level);
     } else if (n == p.two_level && n >= p.leaf + 2) {
       // The top two levels of the halving in one pass over the block.
       const std::size_t Q = std::size_t(1) << (n - 2);
-      for (std::size_t i = 0; i < 4; ++i) block(re + S * i * Q, im + S * i * Q, n - 2, 3);
-      P::combine4(re, im, Q, p.second, std::size_t(1) << (p.two_level - 1), a.inverse);
+      for (std::size_t i = 0; i < 4; ++i) {
+        T* r = re + S * i * Q;
+        T* m = im + S * i * Q;
+        block(r, m, n - 2, 3, r, m);
+      }
+      P::combine4(re, im, ore, oim, Q, p.second, std::size_t(1) << (p.two_level - 1), a.inverse);
     } else if (n > p.leaf) {
       const std::size_t h = std::size_t(1) << (n - 1);
-      block(re, im, n - 1, 3);
-      block(re + S * h, im + S * h, n - 1, 3);
+      block(re, im, n - 1, 3, re, im);
+      block(re + S * h, im + S * h, n - 1, 3, re + S * h, im + S * h);
       const std::size_t c = std::size_t(1) << (p.two_level - 1);
-      P::combine2(re, im, h, p.second, c, std::size_t(1) << (p.two_level - n), a.inverse);
+      P::combine2(re, im, ore, oim, h, p.second, c, std::size_t(1) << (p.two_level - n), a.inverse);
     } else {
-      leaf(re, im, n);
+      leaf(re, im, n, ore, oim);
     }
   }
 
@@ -566,6 +626,8 @@ struct Engine {
   // the permutation, first-pass transform r lands in row rev_k(r mod K), so
   // the transforms r = c + j K (+ lanes) fill the rows rev_k(c ..): every
   // source line is read once and each group of rows is finished at once.
+  // Those rows differ in their top bits only, which is how they share the
+  // aligned area when there is one.
   void row_leaves(T* re, T* im, const FftStep<T>& s) {
     const std::size_t K = std::size_t(1) << s.k;
     const int m = s.order - s.k;
@@ -575,17 +637,23 @@ struct Engine {
         T* r = re + S * b * M;
         T* i = im + S * b * M;
         lead_ = P::lead(r, i, r, i, M, m, rev_, false, a.inverse, p.first);
-        leaf(r, i, m);
+        leaf(r, i, m, r, i);
       }
       return;
     }
     const std::size_t n = std::size_t(1) << p.order;
     const std::size_t G = P::lead_lanes(n, p.leaf);
+    int g = 0;
+    while ((std::size_t(1) << g) < G) ++g;
+    T* wre = scr_ ? scr_ : a.dst_re;
+    T* wim = scr_ ? (S == 2 ? scr_ + 1 : scr_ + G * M) : a.dst_im;
+    const RowMap map = scr_ ? RowMap{p.order - g, m} : RowMap();
     for (std::size_t c = 0; c < K; c += G) {
-      lead_ = P::lead(sr_, si_, a.dst_re, a.dst_im, n, p.leaf, rev_, true, a.inverse, p.first, c, K);
-      for (std::size_t g = 0; g < G; ++g) {
-        const std::size_t b = reverse_small(c + g, s.k);
-        leaf(re + S * b * M, im + S * b * M, m);
+      lead_ = P::lead(sr_, si_, wre, wim, n, p.leaf, rev_, true, a.inverse, p.first, c, K, map);
+      for (std::size_t j = 0; j < G; ++j) {
+        const std::size_t b = reverse_small(c + j, s.k);
+        const std::size_t w = scr_ ? b >> (s.k - g) : b;
+        leaf(wre + S * w * M, wim + S * w * M, m, re + S * b * M, im + S * b * M);
       }
     }
   }
@@ -597,7 +665,11 @@ struct Engine {
     if (level == 0 && rows_) {
       row_leaves(re, im, s);
     } else {
-      for (std::size_t b = 0; b < K; ++b) block(re + S * b * M, im + S * b * M, s.order - s.k, level + 1);
+      for (std::size_t b = 0; b < K; ++b) {
+        T* r = re + S * b * M;
+        T* i = im + S * b * M;
+        block(r, i, s.order - s.k, level + 1, r, i);
+      }
     }
     if (P::column_pass(re, M, K, s.k, s.merge, s.col, a.work, a.inverse)) return;
     for (std::size_t g = 0; g < M / 4; ++g) {
