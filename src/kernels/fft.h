@@ -566,7 +566,10 @@ struct Engine {
       rev_ = rev;
       const std::size_t M = std::size_t(1) << (p.order - p.step[0].k);
       const std::size_t rows = P::lead_lanes(n, p.leaf);
-      if (off && fused && M >= 128 && 2 * rows * M * sizeof(T) <= kScratchBytes) scr_ = scratch;
+      // Groups of rows up to a third of the first-level cache: larger ones
+      // measured slower in the stack area, whose stores to the rows then
+      // evict the group.
+      if (off && fused && M >= 128 && 2 * rows * M * sizeof(T) <= 16384) scr_ = scratch;
     } else {
       lead_ = P::lead(sr, si, a.dst_re, a.dst_im, n, p.leaf, rev, fused, a.inverse, p.first);
     }
