@@ -640,27 +640,17 @@ void ColumnGroup(D d, T* data, size_t M, size_t K, int k, size_t g, const T* mer
   const CxOps<D, 2, INV> o(d);
   using C = typename CxOps<D, 2, INV>::C;
   const size_t W = hn::Lanes(d) / 2;
-  T* const base = data + 2 * (W * g + c0);
-  // The merge table has blocks of four columns; eight single-precision
-  // columns take two blocks (the shifted group the second and third).
-  const T* mg = W >= 4 ? merge + 8 * (W / 4) * g * K : merge + 8 * (g / 2) * K + 4 * (g % 2);
-  if (c0 != 0 && W == 8) mg += 8 * K;
+  const size_t q0 = W * g + c0;  // first column of the group
+  T* const base = data + 2 * q0;
+  // Merge factors (see fft.h): the row factors of columns q0 mod 8 .. of
+  // row b, and the group factor of the 8-column block of q0.
+  const T* rf = merge + 2 * (q0 & 7);
+  const T* gf = merge + 32 * K + 2 * (q0 / 8) * K;
   auto row = [&](size_t b) { return base + 2 * M * b; };
   auto grp = [&](size_t b) { return work + 2 * W * b; };
-  auto merge_tw = [&](size_t b) {
-    constexpr bool kWide = hn::MaxLanes(D()) * sizeof(T) == 64;
-    if constexpr (kWide && sizeof(T) == 4) {
-      const hn::Half<D> dh;
-      return o.mul_tw_vec(hn::Combine(d, hn::LoadU(dh, mg + 8 * (K + b)), hn::LoadU(dh, mg + 8 * b)));
-    } else if constexpr (kWide) {
-      if (c0 != 0) {  // the last two columns of block g, the first two of block g + 1
-        const hn::Half<D> dh;
-        return o.mul_tw_vec(hn::Combine(d, hn::LoadU(dh, mg + 8 * (K + b)), hn::LoadU(dh, mg + 8 * b + 4)));
-      }
-      return o.tw_at(mg + 8 * b, nullptr, 0);
-    } else {
-      return o.tw_at(mg + 8 * b, nullptr, 0);
-    }
+  auto merged = [&](size_t b) {
+    const C x = o.mul_b(o.load(row(b), nullptr, 0), hn::Set(d, gf[2 * b]), hn::Set(d, gf[2 * b + 1]));
+    return o.mul_w(x, o.tw_at(rf + 32 * b, nullptr, 0));
   };
   const bool direct = K == B;  // the lead is the whole transform
   for (size_t b0 = 0; b0 < K; b0 += B) {
@@ -668,8 +658,7 @@ void ColumnGroup(D d, T* data, size_t M, size_t K, int k, size_t g, const T* mer
     HWY_UNROLL(1)
     for (size_t p = 0; p < B; ++p) {
       const size_t b = b0 + p;
-      const C x = o.mul_w(o.load(row(b), nullptr, 0), merge_tw(b));
-      y[B == 16 ? kRev16[p] : kRev8[p]] = x;
+      y[B == 16 ? kRev16[p] : kRev8[p]] = merged(b);
     }
     DftLanes<B>(o, y);
     HWY_UNROLL(1)
@@ -1235,19 +1224,22 @@ struct VecPasses : scalar::Passes<T, S> {
     const DG d;
     const CxOps<DG, S, INV> o(d);
     const size_t NL = hn::Lanes(d);
+    const size_t r0 = 4 * (g & 1);  // merge factors: see fft.h
+    const T* gf = merge + 32 * K + 2 * (g / 2) * K;
     for (size_t b = 0; b < K; ++b) {
       const size_t e = 4 * g + M * b;  // first element of the row's group
-      const T* tw = merge + 8 * (g * K + b);
+      const T* rf = merge + 32 * b + S * r0;
+      const auto gr = hn::Set(d, gf[2 * b]), gi = hn::Set(d, gf[2 * b + 1]);
       T* w = work + 8 * b;
       for (size_t off = 0; off < kGroup; off += NL) {
         typename CxOps<DG, S, INV>::C x, t;
         if (S == 2) {
-          x = o.load(re + 2 * e + off, nullptr, 0);
-          t = o.load(tw + off, nullptr, 0);
+          x = o.mul_b(o.load(re + 2 * e + off, nullptr, 0), gr, gi);
+          t = o.load(rf + off, nullptr, 0);
           o.store(w + off, nullptr, 0, o.mul(x, t));
         } else {
-          x = o.load(re + e + off, im + e + off, 0);
-          t = o.load(tw + off, tw + 4 + off, 0);
+          x = o.mul_b(o.load(re + e + off, im + e + off, 0), gr, gi);
+          t = o.load(rf + off, rf + 16 + off, 0);
           o.store(w + off, w + 4 + off, 0, o.mul(x, t));
         }
       }

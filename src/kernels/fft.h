@@ -19,10 +19,14 @@
 //   the blocks follow each other in stage order (total < 2^n entries);
 // - second-level table of the two-level scheme of order m: one block of 2^(m-1)
 //   entries e^(-2 pi i q/2^m);
-// - merge table of a stepped level (order n, K = 2^k columns per row group):
-//   for each group of four columns q0 = 4g and each row b < K, one block of 4
-//   entries e^(-2 pi i rev_k(b) (q0 + c) / 2^n), c = 0..3, blocks in (g, b)
-//   order (2^n entries);
+// - merge table of a stepped level (order n, K = 2^k rows of M columns):
+//   the factor e^(-2 pi i rev_k(b) q / 2^n) of row b, column q is the
+//   product G[q / 8][b] R[b][q mod 8]. For each row b one block of 16 row
+//   factors R[b][c] = e^(-2 pi i rev_k(b) c / 2^n), c = 0..15 (16 so that a
+//   group of up to eight columns starting anywhere in an 8-column block
+//   reads them contiguously), then for each 8-column block h and row b one
+//   group factor G[h][b] = e^(-2 pi i rev_k(b) 8h / 2^n) (re, im), in (h, b)
+//   order: 16K + N/8 entries of the 2^n set aside;
 // - column table of a stepped level: the first-level table of order k.
 #ifndef KELS_KERNELS_FFT_H
 #define KELS_KERNELS_FFT_H
@@ -324,14 +328,18 @@ struct Passes {
 
   // Column pass pieces of the stepped scheme. Rows of M elements; the four
   // columns q0..q0+3 (q0 = 4g) are gathered into work groups 0..K-1, each
-  // element multiplied by its merge twiddle.
+  // element multiplied by its group factor and its row factor.
   static void gather(const T* re, const T* im, std::size_t M, std::size_t K, std::size_t g,
                      const T* merge, T* work, bool inv) {
+    const std::size_t r0 = 4 * (g & 1);
+    const T* gf = merge + 32 * K + 2 * (g / 2) * K;
     for (std::size_t b = 0; b < K; ++b) {
-      const T* tw = merge + 8 * (g * K + b);
-      const T* twi = block_im<T, S>(tw, 4);
+      const T* rf = merge + 32 * b;
+      const T* rfi = block_im<T, S>(rf, 16);
+      const Cx<T> gw{gf[2 * b], gf[2 * b + 1]};
       for (int c = 0; c < 4; ++c) {
-        const Cx<T> v = mul(ld<T, S>(re, im, 4 * g + c + M * b), ld<T, S>(tw, twi, c), inv);
+        const Cx<T> x = mul(ld<T, S>(re, im, 4 * g + c + M * b), gw, inv);
+        const Cx<T> v = mul(x, ld<T, S>(rf, rfi, r0 + c), inv);
         T* w = grp_re<T, S>(work, b, c);
         w[0] = v.r;
         w[grp_im_off<T, S>()] = v.i;

@@ -156,14 +156,21 @@ std::uint32_t reverse_bits(std::uint32_t x, int bits) {
   return r;
 }
 
+// Merge factors of a stepped level: w^(rev_k(b) q) = G[q / 8][b] R[b][q mod 8]
+// (w = e^(-2 pi i / 2^n)), so the column pass reads one factor per row and
+// eight columns instead of one per element.
 template <class T>
 void fill_merge(T* t, int n, int k, const Twiddles<T>& tw, bool split) {
   const std::size_t K = std::size_t{1} << k, M = std::size_t{1} << (n - k);
-  for (std::size_t g = 0; g < M / 4; ++g)
+  for (std::size_t b = 0; b < K; ++b) {
+    const std::uint64_t rb = reverse_bits(static_cast<std::uint32_t>(b), k);
+    for (std::size_t c = 0; c < 16; ++c) put(t + 32 * b, 16, c, tw.w(rb * c, n), split);
+  }
+  T* g = t + 32 * K;
+  for (std::size_t h = 0; h < M / 8; ++h)
     for (std::size_t b = 0; b < K; ++b) {
-      T* blk = t + 8 * (g * K + b);
       const std::uint64_t rb = reverse_bits(static_cast<std::uint32_t>(b), k);
-      for (std::size_t c = 0; c < 4; ++c) put(blk, 4, c, tw.w(rb * (4 * g + c), n), split);
+      put(g + 2 * (h * K + b), 1, 0, tw.w(rb * 8 * h, n), split);
     }
 }
 
