@@ -1367,7 +1367,7 @@ template <bool INV, class D, class T>
 void LeafDirect(D d, const T* src, T* dst, int order, const T* first, const uint32_t* rev) {
   const size_t n = size_t(1) << order;
   const scalar::BitRev br(rev, order);
-  alignas(64) T scratch[scalar::kScratchBytes / sizeof(T)];
+  alignas(64) T scratch[8192 / sizeof(T)];  // a whole leaf
   T* mid = scalar::off_line(dst) && 2 * n * sizeof(T) <= sizeof(scratch) ? scratch : dst;
   if (order & 1) LeadBlocks<8, INV, 2>(d, src, src + 1, mid, mid + 1, n, br, true, 0, 0, 0);
   else LeadBlocks<16, INV, 2>(d, src, src + 1, mid, mid + 1, n, br, true, 0, 0, 0);

@@ -496,8 +496,10 @@ struct Pair {
 };
 
 // Bytes of the aligned stack area that takes the passes before the last one
-// when the destination is off a 64-byte line.
-constexpr std::size_t kScratchBytes = 32768;
+// when the destination is off a 64-byte line: a leaf of either precision
+// (8 KiB), or a group of rows up to a third of the first-level cache (larger
+// groups measured slower there, as the stores to the rows evict them).
+constexpr std::size_t kScratchBytes = 16384;
 
 // True when full-width vector accesses at p straddle two cache lines.
 inline bool off_line(const void* p) { return (reinterpret_cast<std::uintptr_t>(p) & 63) != 0; }
@@ -574,10 +576,7 @@ struct Engine {
       rev_ = rev;
       const std::size_t M = std::size_t(1) << (p.order - p.step[0].k);
       const std::size_t rows = P::lead_lanes(n, p.leaf);
-      // Groups of rows up to a third of the first-level cache: larger ones
-      // measured slower in the stack area, whose stores to the rows then
-      // evict the group.
-      if (off && fused && M >= 128 && 2 * rows * M * sizeof(T) <= 16384) scr_ = scratch;
+      if (off && fused && M >= 128 && 2 * rows * M * sizeof(T) <= kScratchBytes) scr_ = scratch;
     } else {
       lead_ = P::lead(sr, si, a.dst_re, a.dst_im, n, p.leaf, rev, fused, a.inverse, p.first);
     }
