@@ -1009,32 +1009,30 @@ struct VecPasses : scalar::Passes<T, S> {
   using DC = hn::CappedTag<T, sizeof(T) == 8 && S == 2 ? 2 : 32 / sizeof(T)>;
 
   template <bool INV, class D>
-  static void combine2_t(D d, const T* re, const T* im, T* ore, T* oim, size_t h, const T* tab,
-                         size_t c, size_t stride) {
+  static void combine2_t(D d, T* re, T* im, size_t h, const T* tab, size_t c, size_t stride) {
     const CxOps<D, S, INV> o(d);
     const size_t step = hn::Lanes(d) / S;
     const T* tabi = scalar::block_im<T, S>(tab, c);
     for (size_t q = 0; q < h; q += step) {
       const auto e = o.load(re, im, q);
       const auto od = o.mul(o.load(re, im, q + h), load_tw(d, o, tab, tabi, q, stride));
-      o.store(ore, oim, q, o.add(e, od));
-      o.store(ore, oim, q + h, o.sub(e, od));
+      o.store(re, im, q, o.add(e, od));
+      o.store(re, im, q + h, o.sub(e, od));
     }
   }
   // Consecutive twiddles (stride 1) run at full width.
-  static void combine2(const T* re, const T* im, T* ore, T* oim, size_t h, const T* tab, size_t c,
-                       size_t stride, bool inv) {
+  static void combine2(T* re, T* im, size_t h, const T* tab, size_t c, size_t stride, bool inv) {
     const DC d;
     const hn::ScalableTag<T> dz;
     if (stride == 1 && h * S >= 2 * hn::Lanes(dz)) {
-      if (inv) combine2_t<true>(dz, re, im, ore, oim, h, tab, c, stride);
-      else combine2_t<false>(dz, re, im, ore, oim, h, tab, c, stride);
+      if (inv) combine2_t<true>(dz, re, im, h, tab, c, stride);
+      else combine2_t<false>(dz, re, im, h, tab, c, stride);
     } else if (stride > 2 || h * S < 2 * hn::Lanes(d)) {
-      Base::combine2(re, im, ore, oim, h, tab, c, stride, inv);
+      Base::combine2(re, im, h, tab, c, stride, inv);
     } else if (inv) {
-      combine2_t<true>(d, re, im, ore, oim, h, tab, c, stride);
+      combine2_t<true>(d, re, im, h, tab, c, stride);
     } else {
-      combine2_t<false>(d, re, im, ore, oim, h, tab, c, stride);
+      combine2_t<false>(d, re, im, h, tab, c, stride);
     }
   }
 
@@ -1064,8 +1062,7 @@ struct VecPasses : scalar::Passes<T, S> {
   }
 
   template <bool INV, class D>
-  static size_t combine4_t(D d, const T* re, const T* im, T* ore, T* oim, size_t Q, const T* tab,
-                           size_t c) {
+  static size_t combine4_t(D d, T* re, T* im, size_t Q, const T* tab, size_t c) {
     const CxOps<D, S, INV> o(d);
     using C = typename CxOps<D, S, INV>::C;
     const size_t step = hn::Lanes(d) / S;
@@ -1086,19 +1083,17 @@ struct VecPasses : scalar::Passes<T, S> {
       const C f1 = o.mul_w(o.add(c0, e), w), g2 = o.mul_w(o.sub(c0, e), w);
       C x1, x3;
       o.add_rot(e2, g2, x1, x3);
-      o.store(ore, oim, q, o.add(e1, f1));
-      o.store(ore, oim, q + 2 * Q, o.sub(e1, f1));
-      o.store(ore, oim, q + Q, x1);
-      o.store(ore, oim, q + 3 * Q, x3);
+      o.store(re, im, q, o.add(e1, f1));
+      o.store(re, im, q + 2 * Q, o.sub(e1, f1));
+      o.store(re, im, q + Q, x1);
+      o.store(re, im, q + 3 * Q, x3);
     }
     return q;
   }
-  static void combine4(const T* re, const T* im, T* ore, T* oim, size_t Q, const T* tab, size_t c,
-                       bool inv) {
+  static void combine4(T* re, T* im, size_t Q, const T* tab, size_t c, bool inv) {
     const hn::ScalableTag<T> d;
-    const size_t done = inv ? combine4_t<true>(d, re, im, ore, oim, Q, tab, c)
-                            : combine4_t<false>(d, re, im, ore, oim, Q, tab, c);
-    Base::combine4(re, im, ore, oim, Q, tab, c, inv, done);
+    const size_t done = inv ? combine4_t<true>(d, re, im, Q, tab, c) : combine4_t<false>(d, re, im, Q, tab, c);
+    Base::combine4(re, im, Q, tab, c, inv, done);
   }
 
   static void scale(T* re, T* im, size_t n, T s) {

@@ -286,9 +286,8 @@ struct Passes {
   // Two radix-2 combines in one pass: the four transformed quarters A, B, C,
   // D of Q elements form the halves E = (A, B) and F = (C, D) with the
   // twiddles tab[2q], then the whole with tab[q] (w^(q+Q) = -i w^q).
-  // The results go to (ore, oim), which is (re, im) or a separate array.
-  static void combine4(const T* re, const T* im, T* ore, T* oim, std::size_t Q, const T* tab,
-                       std::size_t c, bool inv, std::size_t q0 = 0) {
+  static void combine4(T* re, T* im, std::size_t Q, const T* tab, std::size_t c, bool inv,
+                       std::size_t q0 = 0) {
     const T* tabi = block_im<T, S>(tab, c);
     for (std::size_t q = q0; q < Q; ++q) {
       const Cx<T> w1 = ld<T, S>(tab, tabi, 2 * q), w = ld<T, S>(tab, tabi, q);
@@ -296,24 +295,23 @@ struct Passes {
       const Cx<T> c0 = ld<T, S>(re, im, q + 2 * Q), e = mul(ld<T, S>(re, im, q + 3 * Q), w1, inv);
       const Cx<T> e1 = add(a0, b), e2 = sub(a0, b);
       const Cx<T> f1 = mul(add(c0, e), w, inv), f2 = rot(mul(sub(c0, e), w, inv), inv);
-      st<T, S>(ore, oim, q, add(e1, f1));
-      st<T, S>(ore, oim, q + 2 * Q, sub(e1, f1));
-      st<T, S>(ore, oim, q + Q, add(e2, f2));
-      st<T, S>(ore, oim, q + 3 * Q, sub(e2, f2));
+      st<T, S>(re, im, q, add(e1, f1));
+      st<T, S>(re, im, q + 2 * Q, sub(e1, f1));
+      st<T, S>(re, im, q + Q, add(e2, f2));
+      st<T, S>(re, im, q + 3 * Q, sub(e2, f2));
     }
   }
 
   // Radix-2 combine of two transformed halves of h elements each with the
-  // twiddles tab[q * stride] of a second-level block of c entries, for
-  // q0 <= q < h, into (ore, oim).
-  static void combine2(const T* re, const T* im, T* ore, T* oim, std::size_t h, const T* tab,
-                       std::size_t c, std::size_t stride, bool inv, std::size_t q0 = 0) {
+  // twiddles tab[q * stride] of a second-level block of c entries.
+  static void combine2(T* re, T* im, std::size_t h, const T* tab, std::size_t c,
+                       std::size_t stride, bool inv) {
     const T* tabi = block_im<T, S>(tab, c);
-    for (std::size_t q = q0; q < h; ++q) {
+    for (std::size_t q = 0; q < h; ++q) {
       const Cx<T> e = ld<T, S>(re, im, q);
       const Cx<T> o = mul(ld<T, S>(re, im, q + h), ld<T, S>(tab, tabi, q * stride), inv);
-      st<T, S>(ore, oim, q, add(e, o));
-      st<T, S>(ore, oim, q + h, sub(e, o));
+      st<T, S>(re, im, q, add(e, o));
+      st<T, S>(re, im, q + h, sub(e, o));
     }
   }
 
@@ -538,7 +536,7 @@ struct Engine {
       T* wre = scratch;
       T* wim = S == 2 ? scratch + 1 : scratch + n;
       lead_ = P::lead(sr, si, wre, wim, n, p.leaf, rev, true, a.inverse, p.first);
-      block(wre, wim, p.order, 0, a.dst_re, a.dst_im);
+      leaf(wre, wim, p.order, a.dst_re, a.dst_im);
       return;
     }
     // Orders up to the leaf size copy an in-place input to the work buffer
@@ -580,7 +578,7 @@ struct Engine {
     } else {
       lead_ = P::lead(sr, si, a.dst_re, a.dst_im, n, p.leaf, rev, fused, a.inverse, p.first);
     }
-    block(a.dst_re, a.dst_im, p.order, 0, a.dst_re, a.dst_im);
+    block(a.dst_re, a.dst_im, p.order, 0);
   }
 
   // A leaf of order n: the radix-4 stages after the blocks of lead_ points
@@ -591,28 +589,22 @@ struct Engine {
     if (a.scaled) P::scale(ore, oim, std::size_t(1) << n, a.scale);
   }
 
-  // Transforms the block of order n at (re, im); its last pass writes
-  // (ore, oim), which differs from (re, im) only outside the stepped scheme.
-  void block(T* re, T* im, int n, int level, T* ore, T* oim) {
+  void block(T* re, T* im, int n, int level) {
     if (level < p.levels && level < 3 && p.step[level].order == n) {
       stepped(re, im, level);
     } else if (n == p.two_level && n >= p.leaf + 2) {
       // The top two levels of the halving in one pass over the block.
       const std::size_t Q = std::size_t(1) << (n - 2);
-      for (std::size_t i = 0; i < 4; ++i) {
-        T* r = re + S * i * Q;
-        T* m = im + S * i * Q;
-        block(r, m, n - 2, 3, r, m);
-      }
-      P::combine4(re, im, ore, oim, Q, p.second, std::size_t(1) << (p.two_level - 1), a.inverse);
+      for (std::size_t i = 0; i < 4; ++i) block(re + S * i * Q, im + S * i * Q, n - 2, 3);
+      P::combine4(re, im, Q, p.second, std::size_t(1) << (p.two_level - 1), a.inverse);
     } else if (n > p.leaf) {
       const std::size_t h = std::size_t(1) << (n - 1);
-      block(re, im, n - 1, 3, re, im);
-      block(re + S * h, im + S * h, n - 1, 3, re + S * h, im + S * h);
+      block(re, im, n - 1, 3);
+      block(re + S * h, im + S * h, n - 1, 3);
       const std::size_t c = std::size_t(1) << (p.two_level - 1);
-      P::combine2(re, im, ore, oim, h, p.second, c, std::size_t(1) << (p.two_level - n), a.inverse);
+      P::combine2(re, im, h, p.second, c, std::size_t(1) << (p.two_level - n), a.inverse);
     } else {
-      leaf(re, im, n, ore, oim);
+      leaf(re, im, n, re, im);
     }
   }
 
@@ -675,11 +667,7 @@ struct Engine {
     if (level == 0 && rows_) {
       row_leaves(re, im, s);
     } else {
-      for (std::size_t b = 0; b < K; ++b) {
-        T* r = re + S * b * M;
-        T* i = im + S * b * M;
-        block(r, i, s.order - s.k, level + 1, r, i);
-      }
+      for (std::size_t b = 0; b < K; ++b) block(re + S * b * M, im + S * b * M, s.order - s.k, level + 1);
     }
     if (P::column_pass(re, M, K, s.k, s.merge, s.col, a.work, a.inverse)) return;
     for (std::size_t g = 0; g < M / 4; ++g) {
