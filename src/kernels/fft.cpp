@@ -931,7 +931,8 @@ struct VecPasses : scalar::Passes<T, S> {
     // unless the destination is off a line: then 256-bit stores, each inside
     // one line, measured 3-6% faster at 2^16..2^19 points.
     const bool rows_off = off && stride != 0;
-    if (sizeof(T) == 8 && ((stride == 0 && n > kWideLeadMax) || rows_off) && cnt >= hn::Lanes(DLW()) / 2) return LeadTag::kWide;
+    const bool wide = (stride == 0 && n > kWideLeadMax) || rows_off;
+    if (sizeof(T) == 8 && wide && cnt >= hn::Lanes(DLW()) / 2) return LeadTag::kWide;
     if (sizeof(T) == 4 && hn::Lanes(DL8()) == 16 && cnt >= 8 && !rows_off) return LeadTag::kEight;
     return cnt >= hn::Lanes(DL4()) / 2 ? LeadTag::kFour : LeadTag::kOne;
   }
