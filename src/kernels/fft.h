@@ -505,11 +505,13 @@ inline bool off_line(const void* p) { return (reinterpret_cast<std::uintptr_t>(p
 // The transform driver, written once over layout and pass policy.
 //
 // A destination off a 64-byte line makes every full-width access touch two
-// lines. When the data fit (a single leaf or the two-level scheme), or a
-// group of rows of the only stepped level fits, the first pass and every
-// pass but the last run in an aligned stack area instead, and the last pass
-// writes the destination; the source is then read only by the first pass,
-// so in-place calls need no copy either.
+// lines. When a single leaf, or a group of rows of the only stepped level,
+// fits the aligned stack area, the first pass and every pass but the last
+// run there instead, and the last pass writes the destination; a single
+// leaf's source is then read only by the first pass, so in-place calls need
+// no copy either. (The two-level scheme stays in the destination: its last
+// pass into lines not yet in cache measured slower than the split accesses
+// it saves.)
 template <class T, int S, class P>
 struct Engine {
   const FftPlan<T>& p;
