@@ -653,6 +653,9 @@ void LeadBlocks(D d, const T* sre, const T* sim, T* dre, T* dim, size_t n,
 // The group holds columns W g + c0 .. + W - 1 (W = 2, 4 or 8 columns per
 // vector); c0 = W / 2 shifts 512-bit groups by half a vector, so that data
 // 32 bytes off a 64-byte boundary are still read in whole lines.
+#ifndef PFD
+#define PFD 448
+#endif
 template <size_t B, bool INV, class D, class T>
 void ColumnGroup(D d, T* data, size_t M, size_t K, int k, size_t g, const T* merge,
                  const T* col, T* work, size_t c0) {
@@ -667,7 +670,12 @@ void ColumnGroup(D d, T* data, size_t M, size_t K, int k, size_t g, const T* mer
   const T* gf = merge + 32 * K + 2 * (q0 / 8) * K;
   auto row = [&](size_t b) { return base + 2 * M * b; };
   auto grp = [&](size_t b) { return work + 2 * W * b; };
+  // Double-precision rows of a megabyte and more fill the second-level
+  // cache; the row lines of the group after next are fetched there ahead,
+  // which measured 1-4% faster at 2^16..2^19 (single precision: slower).
+  const bool ahead = sizeof(T) == 8 && 2 * sizeof(T) * M * K >= (size_t(1) << 20);
   auto merged = [&](size_t b) {
+    if (ahead) _mm_prefetch(reinterpret_cast<const char*>(row(b) + 2 * W) + 128, _MM_HINT_T1);
     const C x = o.mul_b(o.load(row(b), nullptr, 0), hn::Set(d, gf[2 * b]), hn::Set(d, gf[2 * b + 1]));
     return o.mul_w(x, o.tw_at(rf + 32 * b, nullptr, 0));
   };
