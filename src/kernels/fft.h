@@ -81,12 +81,14 @@ void fft_split(const FftPlan<double>& p, const FftArgs<double>& a);
 
 // Out-of-place interleaved transforms of a single leaf (order 4 up to the
 // leaf size) straight from the record's first-level and bit-reversal tables,
-// scaled when `scaled`, without a plan or work area. Returns false (nothing
-// written) when the target has no kernel for them; the engine then runs.
+// multiplied by `scale` unless it is 1, without a plan or work area. Returns
+// false (nothing written) when the target has no kernel for them; the
+// engine then runs. (Six integer arguments and one floating one: all travel
+// in registers, which lets the dispatch be a jump.)
 bool fft_small_interleaved(const float* src, float* dst, int order, const float* first,
-                           const std::uint32_t* rev, bool inv, bool scaled, float scale);
+                           const std::uint32_t* rev, bool inv, float scale);
 bool fft_small_interleaved(const double* src, double* dst, int order, const double* first,
-                           const std::uint32_t* rev, bool inv, bool scaled, double scale);
+                           const std::uint32_t* rev, bool inv, double scale);
 
 // Offset (in T units) of the stage block of length L inside a first-level
 // table: the sum of 2 * 3L'/4 over the earlier stages L' >= 8.

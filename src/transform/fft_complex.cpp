@@ -57,6 +57,21 @@ bool direction_scaled(const Header<T>* h, bool inv) {
   return (inv ? h->scale_inv : h->scale_fwd) != 0;
 }
 
+// Orders 4 and up through the engine, with a plan and a work area; kept
+// out of line so that the small transforms' path saves no more registers
+// than it uses.
+template <class T, int S>
+[[gnu::noinline]] KelStatus run_engine(const Header<T>* h, const Data<T>& d, Kel8u* buf, bool inv,
+                                       bool scaled) {
+  const WorkArea work(buf, h->work_bytes);
+  if (work.failed()) return kelStsNoMemory;
+  const kernels::FftPlan<T> plan = plan_of(h, h->order, sizeof(T) == 8);
+  const kernels::FftArgs<T> args{d.sre, d.sim, d.dre, d.dim, work.as<T>(), inv, scaled, h->scale()};
+  if (S == 2) kernels::fft_interleaved(plan, args);
+  else kernels::fft_split(plan, args);
+  return kelStsOk;
+}
+
 // Floating transform; S = 2 interleaved (sim = sre + 1), S = 1 split.
 template <class T, int S>
 KelStatus transform(const void* record, std::uint32_t id, const Data<T>& d, Kel8u* buf, bool inv) {
@@ -74,16 +89,10 @@ KelStatus transform(const void* record, std::uint32_t id, const Data<T>& d, Kel8
   if (S == 2 && h->order <= leaf_max(sizeof(T) == 8) && buf != nullptr && d.sre != d.dre &&
       kernels::fft_small_interleaved(d.sre, d.dre, h->order, h->template at<T>(h->twiddle),
                                      h->template at<std::uint32_t>(h->bitrev), inv,
-                                     scaled, h->scale())) {
+                                     scaled ? h->scale() : T(1))) {
     return kelStsOk;
   }
-  const WorkArea work(buf, h->work_bytes);
-  if (work.failed()) return kelStsNoMemory;
-  const kernels::FftPlan<T> plan = plan_of(h, h->order, sizeof(T) == 8);
-  const kernels::FftArgs<T> args{d.sre, d.sim, d.dre, d.dim, work.as<T>(), inv, scaled, h->scale()};
-  if (S == 2) kernels::fft_interleaved(plan, args);
-  else kernels::fft_split(plan, args);
-  return kelStsOk;
+  return run_engine<T, S>(h, d, buf, inv, scaled);
 }
 
 // Integer transform: the data go to double precision (exact for 16- and

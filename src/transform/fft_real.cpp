@@ -119,8 +119,7 @@ void run_complex(const Header<T>* h, int corder, const T* src, T* dst, T* work, 
   const bool dbl = sizeof(T) == 8;
   if (corder <= leaf_max(dbl) && src != dst &&
       kernels::fft_small_interleaved(src, dst, corder, h->template at<T>(h->twiddle),
-                                     h->template at<std::uint32_t>(h->bitrev), inv, false,
-                                     T(1))) {
+                                     h->template at<std::uint32_t>(h->bitrev), inv, T(1))) {
     return;
   }
   const kernels::FftPlan<T> plan = plan_of(h, corder, dbl);
