@@ -694,8 +694,43 @@ void ColumnGroup(D d, T* data, size_t M, size_t K, int k, size_t g, const T* mer
   if (direct) return;
   size_t L = 4 * B;
   const T* tw = col + stage_offset(k, L);
+  // Broadcast twiddles of the stage of quarter q (block t) at index j.
+  auto bfly = [&](const T* t, size_t q, size_t j, C& x0, C& x1, C& x2, C& x3) {
+    const T* w = t + 2 * j;
+    x1 = o.mul_b(x1, hn::Set(d, w[2 * q]), hn::Set(d, w[2 * q + 1]));
+    x2 = o.mul_b(x2, hn::Set(d, w[0]), hn::Set(d, w[1]));
+    x3 = o.mul_b(x3, hn::Set(d, w[4 * q]), hn::Set(d, w[4 * q + 1]));
+    Bfly4(o, x0, x1, x2, x3);
+  };
   for (;; L *= 4) {
     const size_t q = L / 4;
+    if (4 * L == K) {
+      // The last two stages in one pass from the work buffer to the rows,
+      // sixteen vectors in registers (as Radix4x2Body).
+      const T* tw4 = tw + 2 * (3 * L / 4);
+      for (size_t j = 0; j < q; ++j) {
+        C x[16];
+        for (size_t g = 0; g < 4; ++g) {
+          const size_t e = j + g * L;
+          C* a = x + 4 * g;
+          a[0] = o.load(grp(e), nullptr, 0);
+          a[1] = o.load(grp(e + q), nullptr, 0);
+          a[2] = o.load(grp(e + 2 * q), nullptr, 0);
+          a[3] = o.load(grp(e + 3 * q), nullptr, 0);
+          bfly(tw, q, j, a[0], a[1], a[2], a[3]);
+        }
+        for (size_t g = 0; g < 4; ++g) {
+          C a0 = x[g], a1 = x[g + 4], a2 = x[g + 8], a3 = x[g + 12];
+          bfly(tw4, L, j + g * q, a0, a1, a2, a3);
+          const size_t e = j + g * q;
+          o.store(row(e), nullptr, 0, a0);
+          o.store(row(e + L), nullptr, 0, a1);
+          o.store(row(e + 2 * L), nullptr, 0, a2);
+          o.store(row(e + 3 * L), nullptr, 0, a3);
+        }
+      }
+      break;
+    }
     const bool last = L == K;
     for (size_t b0 = 0; b0 < K; b0 += L) {
       for (size_t j = 0; j < q; ++j) {
