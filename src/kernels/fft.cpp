@@ -681,14 +681,17 @@ void ColumnGroup(D d, T* data, size_t M, size_t K, int k, size_t g, const T* mer
   };
   const bool direct = K == B;  // the lead is the whole transform
   for (size_t b0 = 0; b0 < K; b0 += B) {
+    // Unrolled, so that the bit-reversed places are constants and y stays
+    // in registers (indexed at run time it went through the stack: the
+    // column pass ran up to 13% longer).
     C y[B];
-    HWY_UNROLL(1)
+    HWY_UNROLL(16)
     for (size_t p = 0; p < B; ++p) {
       const size_t b = b0 + p;
       y[B == 16 ? kRev16[p] : kRev8[p]] = merged(b);
     }
     DftLanes<B>(o, y);
-    HWY_UNROLL(1)
+    HWY_UNROLL(16)
     for (size_t p = 0; p < B; ++p) o.store(direct ? row(b0 + p) : grp(b0 + p), nullptr, 0, y[p]);
   }
   if (direct) return;
