@@ -977,7 +977,11 @@ struct VecPasses : scalar::Passes<T, S> {
     const hn::CappedTag<T, 32 / sizeof(T)> df;
     const hn::CappedTag<T, 4> d4;
     const hn::CappedTag<T, 2> d2;
-    if (q * S >= hn::Lanes(dz)) {
+    // Short runs (two 512-bit vectors) of interleaved data 32 bytes off a
+    // line run at 256 bits, each access inside one line.
+    const bool half_off = S == 2 && sizeof(T) * hn::Lanes(dz) == 64 && q * S < 4 * hn::Lanes(dz) &&
+                          (reinterpret_cast<uintptr_t>(ore) & 63) == 32;
+    if (q * S >= hn::Lanes(dz) && !half_off) {
       Radix4Rows<S, INV>(dz, re, im, ore, oim, n, L, tw, true);
     } else if (q * S >= hn::Lanes(df)) {
       Radix4Rows<S, INV>(df, re, im, ore, oim, n, L, tw);
