@@ -1176,13 +1176,14 @@ struct VecPasses : scalar::Passes<T, S> {
   }
 
   template <bool INV, class D>
-  static size_t combine4_t(D d, T* re, T* im, size_t Q, const T* tab, size_t c) {
+  static size_t combine4_t(D d, T* re, T* im, size_t Q, const T* tab, size_t c, size_t q0,
+                           size_t q1) {
     const CxOps<D, S, INV> o(d);
     using C = typename CxOps<D, S, INV>::C;
     const size_t step = hn::Lanes(d) / S;
     const T* tabi = scalar::block_im<T, S>(tab, c);
-    size_t q = 0;
-    for (; q + step <= Q; q += step) {
+    size_t q = q0;
+    for (; q + step <= q1; q += step) {
       C w1;
       if constexpr (S == 2 && sizeof(T) == 8) {
         if (hn::Lanes(d) == 2) w1 = o.load(tab, tabi, 2 * q);
@@ -1204,9 +1205,28 @@ struct VecPasses : scalar::Passes<T, S> {
     }
     return q;
   }
-  static void combine4(T* re, T* im, size_t Q, const T* tab, size_t c, bool inv) {
+  template <bool INV>
+  static size_t combine4_runs(T* re, T* im, size_t Q, const T* tab, size_t c) {
     const hn::ScalableTag<T> d;
-    const size_t done = inv ? combine4_t<true>(d, re, im, Q, tab, c) : combine4_t<false>(d, re, im, Q, tab, c);
+    const size_t V = hn::Lanes(d) / S;
+    // Interleaved data 32 bytes off a 64-byte line: the 512-bit vectors
+    // shifted by half a vector, so that each access stays inside a line (the
+    // twiddle loads then cross lines instead), and the first and last half
+    // vectors at 256 bits. Measured 4% faster at double precision 2^11 and
+    // 3-5% at single precision 2^12.
+    if constexpr (S == 2 && sizeof(T) * hn::MaxLanes(decltype(d)()) == 64) {
+      if (Q >= 2 * V && (reinterpret_cast<uintptr_t>(re) & 63) == 32) {
+        const hn::Half<decltype(d)> dh;
+        const size_t h = V / 2;
+        combine4_t<INV>(dh, re, im, Q, tab, c, 0, h);
+        combine4_t<INV>(d, re, im, Q, tab, c, h, Q - h);
+        return combine4_t<INV>(dh, re, im, Q, tab, c, Q - h, Q);
+      }
+    }
+    return combine4_t<INV>(d, re, im, Q, tab, c, 0, Q);
+  }
+  static void combine4(T* re, T* im, size_t Q, const T* tab, size_t c, bool inv) {
+    const size_t done = inv ? combine4_runs<true>(re, im, Q, tab, c) : combine4_runs<false>(re, im, Q, tab, c);
     Base::combine4(re, im, Q, tab, c, inv, done);
   }
 
